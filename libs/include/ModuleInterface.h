@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QAction>
+#include <QList>
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
+#include <QWidget>
+#include <QtPlugin>
+
+/**
+ * One menu entry of a module. The module owns the record, the action and the content; the host reads the record
+ * after ModuleInterface::get_gui_elements() and places the action in its menus.
+ */
+struct _GuiElement // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the contract's name
+{
+    _GuiElement() = default;
+    ~_GuiElement() = default;
+
+    /** The entry; activating it is the module's business alone. */
+    QAction* menu_entry = nullptr;
+    /** The place of the entry within its menu: smaller numbers first. */
+    int menu_entry_order_number = 0;
+    /** The translated name of the menu, with its mnemonic. */
+    QString menu_name;
+    /** The place of the menu in the menu bar: smaller numbers first. */
+    int menu_order_number = 0;
+    /** The widget the entry opens; null once it is gone. */
+    QWidget* content = nullptr;
+    /** 0: the host disables the entry while a measurement runs. */
+    int action_active_during_measurement = 0;
+};
+typedef _GuiElement GuiElement; // NOLINT(modernize-use-using): the contract's form
+
+/**
+ * What the host demands of a module plug-in. The host calls everything on its GUI thread, in this order:
+ * set_param() for each of its four values, get_gui_elements(), and at shutdown about_to_exit_module() and
+ * exit_module(), while the parent widget still exists; then it deletes the module object, which it owns.
+ */
+class ModuleInterface
+{
+public:
+    virtual ~ModuleInterface() = default;
+
+    /** Announces the shutdown. */
+    virtual void about_to_exit_module() = 0;
+
+    /** Ends the module's windows. The host's objects must still be alive; calling it again is harmless. */
+    virtual void exit_module() = 0;
+
+    /** The module's translated name. */
+    virtual QString get_module_name() const = 0;
+
+    /** The module's version, such as "v1.2.7". */
+    virtual QString get_module_version() const = 0;
+
+    /** The module's menu entries, built at the first call; the records stay the module's. */
+    virtual QList<_GuiElement*> get_gui_elements() = 0;
+
+    /**
+     * Hands over one of the host's values before the first get_gui_elements():
+     * "CommandManager" (IOManager*), "ModuleParent" (QWidget*), "BackendVersions" (BackendVersions*) and
+     * "ObserverMode" (bool). The objects stay the host's. Any other name is ignored; a value that cannot be
+     * converted counts as null or false.
+     */
+    virtual void set_param(QString name, QVariant value) = 0;
+};
+
+Q_DECLARE_INTERFACE(ModuleInterface, "org.zorvan.zorvan2.gui.Module/0.2.0")
+Q_DECLARE_METATYPE(QWidget*)

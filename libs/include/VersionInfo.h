@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/**
+ * A version as three signed integers, compared lexicographically: major, then minor, then patch.
+ *
+ * A threshold is written with patch -1, so that every release of that minor version meets it:
+ * protocol 0.13 means `protocol >= VersionInfo(0, 13, -1)`.
+ * A plain value: the host creates it, host and modules copy and compare it on the GUI thread.
+ */
+class VersionInfo
+{
+public:
+    VersionInfo(int ma, int mi, int pa) : ma(ma), mi(mi), pa(pa) {}
+
+    void setVer(int major, int minor, int patchLevel)
+    {
+        ma = major;
+        mi = minor;
+        pa = patchLevel;
+    }
+
+    /**
+     * Reads "1.23.0" or "1.23", a missing patch being 0.
+     * \a ok, which may be null, tells whether \a text was such a version; if not, the version stays as it was.
+     */
+    void fromString(const QString& text, bool* ok = nullptr)
+    {
+        const QStringList fields = text.split(QLatin1Char('.'));
+        int numbers[3] = {0, 0, 0};
+        bool isVersion = fields.size() == 2 || fields.size() == 3;
+        for (int i = 0; isVersion && i < fields.size(); ++i)
+            numbers[i] = fields.at(i).toInt(&isVersion);
+        if (isVersion)
+            setVer(numbers[0], numbers[1], numbers[2]);
+        if (ok)
+            *ok = isVersion;
+    }
+
+    /** The version as "1.23.0": always three integers. */
+    QString toString() const { return QStringLiteral("%1.%2.%3").arg(ma).arg(mi).arg(pa); }
+
+    // Not major() and minor(): older C libraries define these names as macros.
+    int majorVersion() const { return ma; }
+    int minorVersion() const { return mi; }
+    int patch() const { return pa; }
+
+    bool operator==(const VersionInfo& other) const { return ma == other.ma && mi == other.mi && pa == other.pa; }
+    bool operator!=(const VersionInfo& other) const { return !(*this == other); }
+    bool operator>(const VersionInfo& other) const
+    {
+        if (ma != other.ma)
+            return ma > other.ma;
+        if (mi != other.mi)
+            return mi > other.mi;
+        return pa > other.pa;
+    }
+    bool operator>=(const VersionInfo& other) const { return *this == other || *this > other; }
+    bool operator<(const VersionInfo& other) const { return !(*this >= other); }
+    bool operator<=(const VersionInfo& other) const { return !(*this > other); }
+
+private:
+    int ma;
+    int mi;
+    int pa;
+};
