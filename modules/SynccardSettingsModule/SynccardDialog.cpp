@@ -1,0 +1,166 @@
+#include "SynccardDialog.h"
+
+#include "BackendVersions.h"
+#include "IOManager.h"
+#include "answers.h"
+#include "reporterror.h"
+
+#include <QTimer>
+
+namespace {
+
+constexpr int pollIntervalMilliseconds = 1000;
+
+} // namespace
+
+SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
+    : QDialog(p), cm(cmd), beVers(bv), m_parent(p), doubleSpinboxDelegate(nullptr)
+{
+    setupUi(this);
+    m_icon_lock.addFile(QStringLiteral(":/lock.png"));
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    // They show what the controller sends, which may look like markup.
+    label_inputSource->setTextFormat(Qt::PlainText);
+    label_inputFrequency->setTextFormat(Qt::PlainText);
+    timer = new QTimer;
+    timer->setInterval(pollIntervalMilliseconds);
+    connect(timer, &QTimer::timeout, this, &SynccardDialog::poll_input_frequency);
+    setup_tableWidget_synccards();
+    setup_tableWidget_channels();
+    showDetails(false);
+}
+
+SynccardDialog::~SynccardDialog()
+{
+    delete timer;
+}
+
+int SynccardDialog::update_and_exec()
+{
+    if (isVisible())
+        return -1;
+    m_is_config_locked = is_config_locked();
+    if (m_is_config_locked)
+        lockEditing();
+    else
+        setWindowIcon(m_parent ? m_parent->windowIcon() : QIcon());
+    bSynccardAvailable = isSynccardAvailable();
+    if (!bSynccardAvailable)
+        return exec_without_synccard();
+    bSomethingChanged = false;
+    disableDialog(false);
+    show_frame_syncinput_if_necessary();
+    return isProtocolAtLeast(0, 13) ? update_and_exec_prot_version_0_13() : update_and_exec_prot_version_0_8();
+}
+
+int SynccardDialog::exec_without_synccard()
+{
+    disableDialog(true);
+    return exec();
+}
+
+/** The common end of both protocol paths. Nothing may follow exec(): the dialog may be gone by then. */
+int SynccardDialog::exec_with_poll()
+{
+    timer->start();
+    updateWidthContols();
+    return exec();
+}
+
+bool SynccardDialog::isSynccardAvailable()
+{
+    if (!cm || !isProtocolAtLeast(0, 8))
+        return false;
+    TextAnswer answer;
+    if (cm->getParameter(answer.buffer(), "synccard available") != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get Synccard availability"));
+        return false;
+    }
+    return answer.isYes();
+}
+
+bool SynccardDialog::is_config_locked()
+{
+    if (!cm || !isProtocolAtLeast(1, 9))
+        return false;
+    TextAnswer answer;
+    if (cm->getParameter(answer.buffer(), "config is_changeable") != 0)
+        return false;
+    return answer.text() == QLatin1String("no");
+}
+
+void SynccardDialog::lockEditing()
+{
+    setWindowIcon(m_icon_lock);
+    comboBox_modes->setDisabled(true);
+    comboBox_source->setDisabled(true);
+    comboBox_output->setDisabled(true);
+    doubleSpinBox_frequency->setDisabled(true);
+    spinBox_externalDivisor->setDisabled(true);
+    tableWidget_channels->setDisabled(true);
+    pushButton_Ok->setDisabled(true);
+}
+
+void SynccardDialog::disableDialog(bool bDisable)
+{
+    label_error->setText(bDisable ? tr("<b><font color=red>No Synccard available!</font></b>") : QString());
+    label_error->setVisible(bDisable);
+    tableWidget_synccards->setDisabled(bDisable);
+    label_syncInput->setDisabled(bDisable);
+    label_inputSource1->setDisabled(bDisable);
+    label_inputSource->setDisabled(bDisable);
+    label_inputFrequency1->setDisabled(bDisable);
+    label_inputFrequency->setDisabled(bDisable);
+    label_supportedSynccardModes->setDisabled(bDisable);
+    if (!m_is_config_locked) {
+        comboBox_modes->setDisabled(bDisable);
+        pushButton_Ok->setDisabled(bDisable);
+    }
+    disableDetails(bDisable);
+}
+
+void SynccardDialog::disableDetails(bool bDisable)
+{
+    label_source->setDisabled(bDisable);
+    label_output->setDisabled(bDisable);
+    if (!m_is_config_locked) {
+        comboBox_source->setDisabled(bDisable);
+        comboBox_output->setDisabled(bDisable);
+        doubleSpinBox_frequency->setDisabled(bDisable);
+        spinBox_externalDivisor->setDisabled(bDisable);
+        tableWidget_channels->setDisabled(bDisable);
+    }
+    label_frequency->setDisabled(bDisable);
+    label_externalDivisor->setDisabled(bDisable);
+}
+
+void SynccardDialog::showDetails(bool bShow)
+{
+    label_source->setVisible(bShow);
+    comboBox_source->setVisible(bShow);
+    label_output->setVisible(bShow);
+    comboBox_output->setVisible(bShow);
+    label_frequency->setVisible(bShow);
+    doubleSpinBox_frequency->setVisible(bShow);
+    label_externalDivisor->setVisible(bShow);
+    spinBox_externalDivisor->setVisible(bShow);
+    tableWidget_channels->setVisible(bShow);
+}
+
+/** Lines the spin boxes up with the source selector. */
+void SynccardDialog::updateWidthContols()
+{
+    const int width = comboBox_source->width();
+    doubleSpinBox_frequency->setMinimumWidth(width);
+    spinBox_externalDivisor->setMinimumWidth(width);
+}
+
+bool SynccardDialog::isProtocolAtLeast(int major, int minor) const
+{
+    return beVers && beVers->protocol() >= VersionInfo(major, minor, -1);
+}
+
+bool SynccardDialog::hasCurrentCard() const
+{
+    return tableWidget_synccards->currentRow() >= 0;
+}

@@ -1,0 +1,128 @@
+#pragma once
+
+#include "doublespinboxdelegate.h"
+#include "synccardlist.h"
+#include "ui_synccarddialog.h"
+
+#include <QDialog>
+#include <QIcon>
+
+class BackendVersions;
+class IOManager;
+class QTimer;
+
+/**
+ * The modal "Synccard Settings" dialog: reads the synccard settings from the controller at every opening, shows
+ * them, and writes the changes back on OK. Lives on the GUI thread; channel, versions and parent stay the host's.
+ *
+ * Without channel or versions it behaves as if there were no synccard.
+ */
+class SynccardDialog : public QDialog, public Ui::synccarddialog
+{
+    Q_OBJECT
+
+public:
+    SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv);
+    ~SynccardDialog() override;
+
+public slots:
+    /**
+     * Fills the dialog from the controller and runs it modally. Returns QDialog::Accepted or QDialog::Rejected; -1
+     * when a read without which nothing can be shown failed, or when the dialog is open already.
+     */
+    int update_and_exec();
+
+private slots:
+    // Changes by the user: they mark the dialog as changed; a new source is also written at once.
+    void on_comboBox_output_currentIndexChanged(int idx);
+    void on_tableWidget_channels_cellChanged(int row, int column);
+    void on_comboBox_modes_currentIndexChanged(const QString& s);
+    void on_comboBox_source_currentIndexChanged(int idx);
+    void on_doubleSpinBox_frequency_valueChanged(double value);
+    void on_spinBox_externalDivisor_valueChanged(int value);
+
+    void accept() override;
+    void reject() override;
+
+    void poll_input_frequency();
+
+private:
+    // Entry and switches: SynccardDialog.cpp
+    bool isSynccardAvailable();
+    bool is_config_locked();
+    void disableDialog(bool bDisable);
+    void disableDetails(bool bDisable);
+    void showDetails(bool bShow);
+    void updateWidthContols();
+    void lockEditing();
+    int exec_without_synccard();
+    int exec_with_poll();
+    /** Whether the controller speaks protocol \a major.\a minor or later; false without versions. */
+    bool isProtocolAtLeast(int major, int minor) const;
+    bool hasCurrentCard() const;
+
+    // Modes and the legacy path: SynccardDialog_modes.cpp
+    int update_and_exec_prot_version_0_8();
+    int update_comboBox_modes();
+    bool update_legacy_card();
+    bool list_modes();
+    void add_mode(int number);
+    bool read_active_mode(QString* mode);
+    bool isDirectSettings(const QString& itemText) const;
+
+    // Direct settings: SynccardDialog_direct.cpp
+    int update_and_exec_prot_version_0_13();
+    void setup_tableWidget_synccards();
+    bool update_tableWidget_synccards();
+    bool add_card(int number);
+    void updateControlsDirectSettings();
+    void update_comboBox_source();
+    void update_doubleSpinBox_frequency();
+    void update_spinBox_externalDivisor();
+    void show_internal_frequency();
+    void show_external_divisor(const QString& source);
+    /** Protocols 1.9 and 1.10, whose controllers do not take a divisor. */
+    bool isProtocolWithoutDivisor() const;
+
+    // Sync output and channels: SynccardDialog_channels.cpp
+    void setup_tableWidget_channels();
+    void update_comboBox_output();
+    int offer_outputs();
+    void update_tableWidget_channels();
+    double read_delay(int channel);
+    bool read_active_during_idle(int channel);
+    void show_channel(int row, const QString& maximumDelay, Qt::ItemFlags idleFlags);
+
+    // Sync input: SynccardDialog_syncinput.cpp
+    void show_frame_syncinput_if_necessary();
+
+    // Applying: SynccardDialog_apply.cpp
+    void storeActualDirectSettingsToSynccardList();
+    int saveDirectSettings();
+    int saveSource(const Synccard& card);
+    int saveFrequencyOrDivisor(const Synccard& card);
+    void saveChannels(const Synccard& card);
+    int setSourceToHub(const QString& source);
+    bool setSyncOutputToHub();
+
+    // Leaving: SynccardDialog_leave.cpp
+    void storePreviousSettings();
+    void startLeaving();
+    bool applyMode();
+    bool warnOfFailedChange();
+    void restorePreviousSettings();
+    bool restoreSource(const QString& source);
+
+    QTimer* timer = nullptr;
+    IOManager* cm = nullptr;
+    BackendVersions* beVers = nullptr;
+    QWidget* m_parent = nullptr;
+    bool bSynccardAvailable = false;
+    DoubleSpinboxDelegate doubleSpinboxDelegate;
+    bool bUserAction = false;
+    bool bSomethingChanged = false;
+    SynccardList synccards;
+    SynccardList previousSettings;
+    bool m_is_config_locked = false;
+    QIcon m_icon_lock;
+};

@@ -1,0 +1,156 @@
+#include "SynccardDialog.h"
+
+#include "BackendVersions.h"
+#include "IOManager.h"
+#include "answers.h"
+#include "reporterror.h"
+
+namespace {
+
+/** Results of saveDirectSettings(); 5 and 6 are not used. */
+enum SaveResult {
+    Saved = 0,
+    DirectSettingsFailed = 1,
+    SourceQueryFailed = 2,
+    SourceNotSupported = 3,
+    SourceFailed = 4,
+    FrequencyFailed = 7,
+    DivisorFailed = 8,
+};
+
+} // namespace
+
+/** Copies what the widgets show into the record of card 0, while direct settings are shown for a card. */
+void SynccardDialog::storeActualDirectSettingsToSynccardList()
+{
+    const int rows = tableWidget_channels->rowCount();
+    if (!isDirectSettings(comboBox_modes->currentText()) || !hasCurrentCard() || rows == 0)
+        return;
+    Synccard* card = synccards.getSynccard(0);
+    if (!card) {
+        card = new Synccard(0);
+        for (int row = 0; row < rows; ++row)
+            card->addChannel(new Channel);
+        synccards.add(card);
+    }
+    card->setActiveSource(comboBox_source->currentData().toString());
+    card->setFrequency(doubleSpinBox_frequency->value());
+    card->setExternalDivisor(spinBox_externalDivisor->value());
+    for (int row = 0; row < rows; ++row) {
+        Channel* channel = card->channel(row);
+        if (!channel)
+            continue;
+        if (const auto* delayItem = tableWidget_channels->item(row, 1))
+            channel->setDelay(delayItem->text());
+        if (const auto* idleItem = tableWidget_channels->item(row, 2))
+            channel->setActiveDuringIdle(idleItem->checkState() == Qt::Checked);
+    }
+}
+
+/** Writes the complete direct settings of card 1; stops at the first failure before the channels. */
+int SynccardDialog::saveDirectSettings()
+{
+    storeActualDirectSettingsToSynccardList();
+    if (synccards.size() == 0)
+        return Saved;
+    if (cm->setParameter("synccard active_mode none") != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to set Synccard direct settings"));
+        return DirectSettingsFailed;
+    }
+    const Synccard& card = *synccards.at(0);
+    int result = saveSource(card);
+    if (result == Saved)
+        result = saveFrequencyOrDivisor(card);
+    if (result == Saved)
+        saveChannels(card);
+    return result;
+}
+
+int SynccardDialog::saveSource(const Synccard& card)
+{
+    const int number = card.id() + 1;
+    const QByteArray source = card.activeSource().toLatin1();
+    TextAnswer answer;
+    if (cm->getParameter(answer.buffer(), "synccard has_source d%2.2d %s", number, source.constData()) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get Synccard source"));
+        return SourceQueryFailed;
+    }
+    if (!answer.isYes())
+        return SourceNotSupported;
+    if (cm->setParameter("synccard source d%2.2d %s", number, source.constData()) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to set Synccard source"));
+        return SourceFailed;
+    }
+    return Saved;
+}
+
+int SynccardDialog::saveFrequencyOrDivisor(const Synccard& card)
+{
+    const int number = card.id() + 1;
+    if (card.activeSource() == QLatin1String("internal")) {
+        if (cm->setParameter("synccard internal_frequency d%2.2d %.6f", number, card.frequency()) != 0) {
+            reportError(cm, QStringLiteral("Error: Unable to set Synccard internal frequency"));
+            return FrequencyFailed;
+        }
+    } else if (!isProtocolWithoutDivisor()) {
+        if (cm->setParameter("synccard external_divisor d%2.2d %d", number, card.externalDivisor()) != 0) {
+            reportError(cm, QStringLiteral("Error: Unable to set Synccard external divisor"));
+            return DivisorFailed;
+        }
+    }
+    return Saved;
+}
+
+/** Writes delay and idle flag of every channel; a failure is reported and the next value follows. */
+void SynccardDialog::saveChannels(const Synccard& card)
+{
+    const int number = card.id() + 1;
+    for (int i = 0; i < card.channelsCount(); ++i) {
+        const int channelNumber = i + 1;
+        const double delay = card.channel(i)->delay();
+        const char* active = card.channel(i)->activeDuringIdle() ? "yes" : "no";
+        if (cm->setParameter("synccard output_delay d%2.2d ch%2.2d %.6f", number, channelNumber, delay) != 0)
+            reportError(cm, QStringLiteral("Error: Unable to set Synccard d0%1 channel ch0%2 delay %3")
+                                .arg(number)
+                                .arg(channelNumber)
+                                .arg(delay));
+        if (cm->setParameter("synccard output_during_idle d%2.2d ch%2.2d %s", number, channelNumber, active) != 0)
+            reportError(cm, QStringLiteral("Error: Unable to set Synccard d0%1 channel ch0%2 active during idle %3")
+                                .arg(number)
+                                .arg(channelNumber)
+                                .arg(QLatin1String(active)));
+    }
+}
+
+int SynccardDialog::setSourceToHub(const QString& source)
+{
+    if (cm->setParameter("synccard source d01 %s", source.toLatin1().constData()) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to set Synccard source"));
+        return -1;
+    }
+    return 0;
+}
+
+/** True when the controller ends with the chosen output, whether it had it already or took it now. */
+bool SynccardDialog::setSyncOutputToHub()
+{
+    if (!isProtocolAtLeast(1, 23))
+        return false;
+    const QByteArray source = comboBox_source->currentData().toString().toLatin1();
+    const QByteArray output = comboBox_output->currentData().toString().toLatin1();
+    if (source.isEmpty() || output.isEmpty())
+        return false;
+    bool isOffered = false;
+    if (cm->getParameterBool(&isOffered, "synccard has_output d01 %s %s", source.constData(), output.constData()) != 0
+        || !isOffered)
+        return false;
+    OutputAnswer current;
+    const bool isCurrentKnown = cm->getParameter(current.buffer(), "synccard output d01") == 0;
+    if (isCurrentKnown && current.text() == QLatin1String(output))
+        return true;
+    if (cm->setParameter("synccard output d01 %s", output.constData()) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to set Synccard output"));
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,150 @@
+#include "SynccardDialog.h"
+
+#include "IOManager.h"
+#include "answers.h"
+#include "keywords.h"
+#include "reporterror.h"
+
+#include <QHeaderView>
+
+namespace {
+
+constexpr int rowHeight = 20;
+constexpr double defaultMaximumDelayMilliseconds = 300.0;
+constexpr double microsecondsPerMillisecond = 1000.0;
+
+QString microseconds(double milliseconds, int decimals)
+{
+    return QString::number(milliseconds * microsecondsPerMillisecond, 'f', decimals);
+}
+
+} // namespace
+
+void SynccardDialog::update_comboBox_output()
+{
+    comboBox_output->clear();
+    const bool hasChoice = isProtocolAtLeast(1, 23) && offer_outputs() > 1;
+    label_output->setEnabled(hasChoice);
+    if (!hasChoice || !m_is_config_locked)
+        comboBox_output->setEnabled(hasChoice);
+    if (!hasChoice)
+        return;
+    TextAnswer current;
+    if (cm->getParameter(current.buffer(), "synccard output d01") != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get Synccard output"));
+        return;
+    }
+    comboBox_output->setCurrentIndex(comboBox_output->findData(current.text()));
+}
+
+/** Lists the outputs that card 1 can drive from the selected source and returns their number. */
+int SynccardDialog::offer_outputs()
+{
+    const QByteArray source = comboBox_source->currentData().toString().toLatin1();
+    for (const Choice& output : syncOutputs) {
+        TextAnswer answer;
+        if (cm->getParameter(answer.buffer(), "synccard has_output d01 %s %s", source.constData(), output.keyword) != 0)
+            reportError(cm, QStringLiteral("Error: Unable to get info synccard 1 has output %2")
+                                .arg(QLatin1String(output.keyword)));
+        else if (answer.isYes())
+            comboBox_output->addItem(tr(output.description), QString::fromLatin1(output.keyword));
+    }
+    return comboBox_output->count();
+}
+
+void SynccardDialog::on_comboBox_output_currentIndexChanged(int /*idx*/)
+{
+    if (bUserAction)
+        bSomethingChanged = true;
+}
+
+void SynccardDialog::setup_tableWidget_channels()
+{
+    tableWidget_channels->verticalHeader()->hide();
+    tableWidget_channels->setColumnCount(4);
+    tableWidget_channels->horizontalHeader()->resizeSection(0, 200);
+    tableWidget_channels->horizontalHeader()->setStretchLastSection(true);
+    tableWidget_channels->setRowCount(0);
+    tableWidget_channels->setHorizontalHeaderLabels(
+        {tr("Channel"), tr("Delay [us]"), tr("Active during idle"), tr("Max delay")});
+    tableWidget_channels->verticalHeader()->setDefaultSectionSize(28);
+    // The style's own minimum, by font 21 pixels or more, would overrule the rows' 20.
+    tableWidget_channels->verticalHeader()->setMinimumSectionSize(rowHeight);
+    tableWidget_channels->horizontalHeader()->setSectionsClickable(false);
+    tableWidget_channels->setSelectionMode(QAbstractItemView::NoSelection);
+    tableWidget_channels->setItemDelegateForColumn(1, &doubleSpinboxDelegate);
+    tableWidget_channels->setColumnHidden(3, true);
+}
+
+void SynccardDialog::update_tableWidget_channels()
+{
+    tableWidget_channels->clearContents();
+    tableWidget_channels->setRowCount(0);
+    if (!hasCurrentCard())
+        return;
+    int channels = 0;
+    if (cm->getParameterInt(&channels, "synccard number_of_channels d01") != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get number of channels from synccard 1"));
+        channels = 0;
+    }
+    double maximumDelay = defaultMaximumDelayMilliseconds;
+    if (!isRead(cm->getParameterDouble(&maximumDelay, "synccard max_output_delay d01"), maximumDelay)) {
+        reportError(cm, QStringLiteral("Error: Unable to get max output delay from synccard 1"));
+        maximumDelay = defaultMaximumDelayMilliseconds;
+    }
+    const auto* card = tableWidget_synccards->item(tableWidget_synccards->currentRow(), 0);
+    const bool hasFixedIdle = card && card->data(Qt::UserRole).toString() == QLatin1String("0x0301");
+    const Qt::ItemFlags idleFlags =
+        hasFixedIdle ? Qt::ItemFlags(Qt::ItemIsUserCheckable) : Qt::ItemIsUserCheckable | Qt::ItemIsEnabled;
+    const QString maximumText = microseconds(maximumDelay, 1);
+    tableWidget_channels->setRowCount(boundedCount(channels));
+    for (int row = 0; row < tableWidget_channels->rowCount(); ++row)
+        show_channel(row, maximumText, idleFlags);
+    tableWidget_channels->setColumnWidth(0, 110);
+    tableWidget_channels->setColumnWidth(1, 110);
+}
+
+/** The items get their properties before the table gets the items: each later change would signal a cell change. */
+void SynccardDialog::show_channel(int row, const QString& maximumDelay, Qt::ItemFlags idleFlags)
+{
+    const int channel = row + 1;
+    auto* delayItem = new QTableWidgetItem(microseconds(read_delay(channel), 0));
+    delayItem->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* idleItem = new QTableWidgetItem;
+    idleItem->setFlags(idleFlags);
+    idleItem->setCheckState(read_active_during_idle(channel) ? Qt::Checked : Qt::Unchecked);
+    auto* channelItem = new QTableWidgetItem(QString::number(channel));
+    channelItem->setFlags(Qt::ItemIsEnabled);
+
+    tableWidget_channels->setItem(row, 0, channelItem);
+    tableWidget_channels->setItem(row, 1, delayItem);
+    tableWidget_channels->setItem(row, 2, idleItem);
+    tableWidget_channels->setItem(row, 3, new QTableWidgetItem(maximumDelay));
+    tableWidget_channels->setRowHeight(row, rowHeight);
+}
+
+/** The channel's output delay in milliseconds; 0 when it cannot be read. */
+double SynccardDialog::read_delay(int channel)
+{
+    double delay = 0.0;
+    if (isRead(cm->getParameterDouble(&delay, "synccard output_delay d01 ch%2.2d", channel), delay))
+        return delay;
+    reportError(cm, QStringLiteral("Error: Unable to get output delay from synccard 1 channel ch0%2").arg(channel));
+    return 0.0;
+}
+
+bool SynccardDialog::read_active_during_idle(int channel)
+{
+    TextAnswer answer;
+    if (cm->getParameter(answer.buffer(), "synccard output_during_idle d01 ch%2.2d", channel) == 0)
+        return answer.isYes();
+    reportError(cm, QStringLiteral("Error: Unable to get infomation output during idle from synccard 1 channel ch0%2")
+                        .arg(channel));
+    return false;
+}
+
+void SynccardDialog::on_tableWidget_channels_cellChanged(int /*row*/, int /*column*/)
+{
+    if (bUserAction)
+        bSomethingChanged = true;
+}

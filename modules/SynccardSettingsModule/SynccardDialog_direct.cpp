@@ -1,0 +1,255 @@
+#include "SynccardDialog.h"
+
+#include "BackendVersions.h"
+#include "IOManager.h"
+#include "answers.h"
+#include "keywords.h"
+#include "reporterror.h"
+
+#include <QHeaderView>
+
+namespace {
+
+constexpr double defaultFrequencyHz = 60.0;
+constexpr double minimumInternalFrequencyHz = 10.0;
+constexpr int defaultMaximumDivisor = 100;
+constexpr int fixedDivisor = 2;
+
+/** The number a serial token begins with; not \a ok when it begins with none, or with one beyond 64 bits. */
+qlonglong leadingNumber(const QString& token, bool* ok)
+{
+    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
+    int digits = 0;
+    while (digits < token.size() && isDigit(token.at(digits)))
+        ++digits;
+    return token.left(digits).toLongLong(ok);
+}
+
+} // namespace
+
+int SynccardDialog::update_and_exec_prot_version_0_13()
+{
+    if (!update_tableWidget_synccards())
+        return -1;
+    bUserAction = false;
+    const int modesResult = update_comboBox_modes();
+    if (modesResult != 0)
+        return modesResult;
+    updateControlsDirectSettings();
+    storePreviousSettings();
+    bUserAction = true;
+    bSomethingChanged = false;
+    return exec_with_poll();
+}
+
+void SynccardDialog::setup_tableWidget_synccards()
+{
+    tableWidget_synccards->verticalHeader()->hide();
+    tableWidget_synccards->setColumnCount(2);
+    tableWidget_synccards->horizontalHeader()->resizeSection(0, 200);
+    tableWidget_synccards->horizontalHeader()->setStretchLastSection(true);
+    tableWidget_synccards->setRowCount(0);
+    tableWidget_synccards->setHorizontalHeaderLabels({tr("Model"), tr("Serial")});
+    tableWidget_synccards->verticalHeader()->setDefaultSectionSize(28);
+    tableWidget_synccards->horizontalHeader()->setSectionsClickable(false);
+    tableWidget_synccards->setSelectionMode(QAbstractItemView::NoSelection);
+    tableWidget_synccards->setSelectionBehavior(QAbstractItemView::SelectRows);
+    tableWidget_synccards->setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+/** Lists all cards; false when one of them, or their number, cannot be read. */
+bool SynccardDialog::update_tableWidget_synccards()
+{
+    int cards = 0;
+    if (cm->getParameterInt(&cards, "synccard number_of_synccards") != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get number of Synccards"));
+        return false;
+    }
+    tableWidget_synccards->setRowCount(0);
+    for (int i = 1; i <= boundedCount(cards); ++i) {
+        if (!add_card(i))
+            return false;
+    }
+    if (tableWidget_synccards->rowCount() > 0)
+        tableWidget_synccards->setCurrentCell(0, 0);
+    tableWidget_synccards->setColumnWidth(0, 165);
+    return true;
+}
+
+/** Puts the card on top of the table, which so ends with card 1. */
+bool SynccardDialog::add_card(int number)
+{
+    TextAnswer record;
+    if (cm->getParameter(record.buffer(), "synccard synccard d%02d", number) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get Synccard device info"));
+        return false;
+    }
+    const QString tokens = record.text().simplified();
+    const QString model = tokens.section(QLatin1Char(' '), 0, 0);
+    const QString serial = tokens.section(QLatin1Char(' '), 1, 1);
+    TextAnswer description;
+    if (cm->getParameter(description.buffer(), "synccard model_desc %s", model.toLatin1().constData()) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get Synccard model description"));
+        return false;
+    }
+    bool isNumber = false;
+    const qlonglong serialNumber = leadingNumber(serial, &isNumber);
+    const bool hasSerial = !serial.isEmpty() && !(isNumber && serialNumber == 0);
+
+    auto* modelItem = new QTableWidgetItem(description.text().remove(QLatin1Char('"')));
+    modelItem->setData(Qt::UserRole, model);
+    auto* serialItem = new QTableWidgetItem(hasSerial ? serial : QStringLiteral("-"));
+    serialItem->setTextAlignment(Qt::AlignCenter);
+    serialItem->setData(Qt::UserRole, serialNumber);
+    tableWidget_synccards->insertRow(0);
+    tableWidget_synccards->setItem(0, 0, modelItem);
+    tableWidget_synccards->setItem(0, 1, serialItem);
+    return true;
+}
+
+/** The source comes first: output, frequency and divisor depend on the one it selects. */
+void SynccardDialog::updateControlsDirectSettings()
+{
+    update_comboBox_source();
+    update_comboBox_output();
+    update_doubleSpinBox_frequency();
+    update_spinBox_externalDivisor();
+    update_tableWidget_channels();
+}
+
+void SynccardDialog::update_comboBox_source()
+{
+    comboBox_source->clear();
+    if (!hasCurrentCard())
+        return;
+    for (const Choice& source : syncSources) {
+        if (qstrcmp(source.keyword, "ttlboth") == 0 && !isProtocolAtLeast(1, 15))
+            continue;
+        TextAnswer answer;
+        if (cm->getParameter(answer.buffer(), "synccard has_source d01 %s", source.keyword) != 0)
+            reportError(cm, QStringLiteral("Error: Unable to get info synccard 1 has source %2")
+                                .arg(QLatin1String(source.keyword)));
+        else if (answer.isYes())
+            comboBox_source->addItem(tr(source.description), QString::fromLatin1(source.keyword));
+    }
+    TextAnswer current;
+    if (cm->getParameter(current.buffer(), "synccard source d%2.2d", tableWidget_synccards->currentRow() + 1) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get Synccard source"));
+        return;
+    }
+    comboBox_source->setCurrentIndex(comboBox_source->findData(current.text()));
+}
+
+void SynccardDialog::update_doubleSpinBox_frequency()
+{
+    if (!hasCurrentCard())
+        return;
+    if (comboBox_source->currentData().toString() == QLatin1String("internal")) {
+        show_internal_frequency();
+        return;
+    }
+    label_frequency->setDisabled(true);
+    doubleSpinBox_frequency->setDisabled(true);
+    doubleSpinBox_frequency->setMinimum(0.0);
+    doubleSpinBox_frequency->setMaximum(defaultFrequencyHz);
+    doubleSpinBox_frequency->setValue(0.0);
+}
+
+void SynccardDialog::show_internal_frequency()
+{
+    double maximum = defaultFrequencyHz;
+    if (isProtocolAtLeast(1, 5)
+        && !isRead(cm->getParameterDouble(&maximum, "synccard max_internal_frequency d01"), maximum)) {
+        reportError(cm, QStringLiteral("Error: Unable to get maximum internal frequency from synccard 1"));
+        maximum = defaultFrequencyHz;
+    }
+    double frequency = defaultFrequencyHz;
+    if (!isRead(cm->getParameterDouble(&frequency, "synccard internal_frequency d01"), frequency)) {
+        reportError(cm, QStringLiteral("Error: Unable to get internal frequency from synccard 1"));
+        frequency = defaultFrequencyHz;
+    }
+    label_frequency->setEnabled(true);
+    if (!m_is_config_locked)
+        doubleSpinBox_frequency->setEnabled(true);
+    doubleSpinBox_frequency->setMinimum(minimumInternalFrequencyHz);
+    doubleSpinBox_frequency->setMaximum(maximum);
+    doubleSpinBox_frequency->setValue(frequency);
+}
+
+void SynccardDialog::update_spinBox_externalDivisor()
+{
+    if (!hasCurrentCard())
+        return;
+    const QString source = comboBox_source->currentData().toString();
+    if (source == QLatin1String("internal")) {
+        label_externalDivisor->setDisabled(true);
+        spinBox_externalDivisor->setDisabled(true);
+        spinBox_externalDivisor->setMinimum(0);
+        spinBox_externalDivisor->setMaximum(defaultMaximumDivisor);
+        spinBox_externalDivisor->setValue(1);
+    } else if (isProtocolWithoutDivisor() && beVers->hubModel().startsWith(QLatin1String("QUILLSTONE"))) {
+        label_externalDivisor->setDisabled(true);
+        spinBox_externalDivisor->setDisabled(true);
+        spinBox_externalDivisor->setMinimum(fixedDivisor);
+        spinBox_externalDivisor->setMaximum(fixedDivisor);
+        spinBox_externalDivisor->setValue(fixedDivisor);
+    } else {
+        show_external_divisor(source);
+    }
+}
+
+void SynccardDialog::show_external_divisor(const QString& source)
+{
+    constexpr int minimum = 1;
+    int divisor = 1;
+    if (cm->getParameterInt(&divisor, "synccard external_divisor d01") != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get external divisor from synccard 1"));
+        divisor = 1;
+    }
+    int maximum = defaultMaximumDivisor;
+    if (cm->getParameterInt(&maximum, "synccard max_external_divisor d01 %s", source.toLatin1().constData()) != 0) {
+        reportError(
+            cm, QStringLiteral("Error: Unable to get maximum external divisor from synccard 1 with %2").arg(source));
+        maximum = 1;
+    }
+    // A divisor that cannot change is shown but not offered.
+    const bool isFixed = maximum <= minimum;
+    label_externalDivisor->setDisabled(isFixed);
+    if (isFixed || !m_is_config_locked)
+        spinBox_externalDivisor->setDisabled(isFixed);
+    spinBox_externalDivisor->setMinimum(minimum);
+    spinBox_externalDivisor->setMaximum(maximum);
+    spinBox_externalDivisor->setValue(divisor);
+}
+
+bool SynccardDialog::isProtocolWithoutDivisor() const
+{
+    return isProtocolAtLeast(1, 9) && !isProtocolAtLeast(1, 11);
+}
+
+void SynccardDialog::on_comboBox_source_currentIndexChanged(int idx)
+{
+    if (!bUserAction)
+        return;
+    const QString source = comboBox_source->itemData(idx).toString();
+    if (source.isEmpty())
+        return;
+    if (setSourceToHub(source) == 0) {
+        update_doubleSpinBox_frequency();
+        update_spinBox_externalDivisor();
+        update_comboBox_output();
+    }
+    bSomethingChanged = true;
+}
+
+void SynccardDialog::on_doubleSpinBox_frequency_valueChanged(double /*value*/)
+{
+    if (bUserAction)
+        bSomethingChanged = true;
+}
+
+void SynccardDialog::on_spinBox_externalDivisor_valueChanged(int /*value*/)
+{
+    if (bUserAction)
+        bSomethingChanged = true;
+}

@@ -1,0 +1,114 @@
+#include "SynccardDialog.h"
+
+#include "IOManager.h"
+#include "answers.h"
+#include "reporterror.h"
+
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+
+/** Notes the settings in force, for Cancel; without a current card an earlier note stays. */
+void SynccardDialog::storePreviousSettings()
+{
+    if (!hasCurrentCard())
+        return;
+    Synccard* card = previousSettings.getSynccard(0);
+    if (!card) {
+        card = new Synccard(0);
+        previousSettings.add(card);
+    }
+    card->setActiveMode(comboBox_modes->currentData().toString());
+    card->setActiveSource(comboBox_source->currentData().toString());
+    card->setFrequency(doubleSpinBox_frequency->value());
+    card->setExternalDivisor(spinBox_externalDivisor->value());
+}
+
+void SynccardDialog::accept()
+{
+    startLeaving();
+    if (bSomethingChanged && comboBox_modes->currentIndex() >= 0) {
+        const bool isDirect = isDirectSettings(comboBox_modes->currentText());
+        const bool isApplied = isDirect ? saveDirectSettings() == 0 : applyMode();
+        if (!isApplied && !warnOfFailedChange())
+            return;
+        setSyncOutputToHub();
+    }
+    done(Accepted);
+}
+
+void SynccardDialog::reject()
+{
+    startLeaving();
+    if (bSynccardAvailable) {
+        storeActualDirectSettingsToSynccardList();
+        restorePreviousSettings();
+    }
+    done(Rejected);
+}
+
+/** What both exits begin with: no poll and no change mark while they talk to the controller. */
+void SynccardDialog::startLeaving()
+{
+    if (timer->isActive())
+        timer->stop();
+    synccards.clear();
+    bUserAction = false;
+}
+
+bool SynccardDialog::applyMode()
+{
+    const QByteArray mode = comboBox_modes->currentData().toString().toLatin1();
+    if (cm->setParameter("synccard active_mode %s", mode.constData()) == 0)
+        return true;
+    reportError(cm, QStringLiteral("Error: Unable to set Synccard active mode"));
+    return false;
+}
+
+/** Shows the one warning box. False when the dialog died with its parent while the box was open. */
+bool SynccardDialog::warnOfFailedChange()
+{
+    const QPointer<SynccardDialog> self(this);
+    // On the heap: the dialog, its parent, may take the box along.
+    const QPointer<QMessageBox> box(new QMessageBox(
+        QMessageBox::Critical, tr("Warning"), tr("Error occured while performing the change"), QMessageBox::Ok, this));
+    box->exec();
+    delete box.data();
+    return !self.isNull();
+}
+
+/** Puts back the source, written while the dialog was open, and the frequency or divisor that may have moved along. */
+void SynccardDialog::restorePreviousSettings()
+{
+    const Synccard* current = synccards.getSynccard(0);
+    if (!current || previousSettings.size() == 0)
+        return;
+    const Synccard& previous = *previousSettings.at(0);
+    if (previous.activeMode() != QLatin1String("direct settings"))
+        return;
+    if (previous.activeSource() != current->activeSource() && !restoreSource(previous.activeSource()))
+        return;
+    if (previous.activeSource() == QLatin1String("internal")) {
+        if (previous.frequency() != current->frequency()
+            && cm->setParameter("synccard internal_frequency d01 %.6f", previous.frequency()) != 0)
+            reportError(cm, QStringLiteral("Error: Unable to set Synccard internal frequency"));
+    } else if (previous.externalDivisor() != current->externalDivisor()
+               && cm->setParameter("synccard external_divisor d01 %d", previous.externalDivisor()) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to set Synccard external divisor"));
+    }
+}
+
+/** False when the card does not offer the source any more, or does not say: then nothing more is restored. */
+bool SynccardDialog::restoreSource(const QString& source)
+{
+    const QByteArray keyword = source.toLatin1();
+    TextAnswer answer;
+    if (cm->getParameter(answer.buffer(), "synccard has_source d01 %s", keyword.constData()) != 0) {
+        reportError(cm, QStringLiteral("Error: Unable to get Synccard source"));
+        return false;
+    }
+    if (!answer.isYes())
+        return false;
+    setSourceToHub(source);
+    return true;
+}

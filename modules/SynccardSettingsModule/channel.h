@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+/** One output channel of a synccard. A record of values only; lives on the GUI thread, owned by its Synccard. */
+class Channel
+{
+public:
+    Channel() = default;
+
+    /** The output delay in milliseconds ("synccard output_delay"). */
+    double delay() const { return dDelay; }
+
+    /** Whether the output stays active while the system is idle ("synccard output_during_idle"). */
+    bool activeDuringIdle() const { return bActiveDuringIdle; }
+
+    /** Takes the delay in milliseconds; no range check. */
+    void setDelay(double delay) { dDelay = delay; }
+
+    /** Takes the text of a delay cell, microseconds with a decimal point; 0 when the text is no number. */
+    void setDelay(const QString& text)
+    {
+        bool isNumber = false;
+        const double microseconds = text.toDouble(&isNumber);
+        dDelay = isNumber ? microseconds / 1000.0 : 0.0;
+    }
+
+    void setActiveDuringIdle(bool active) { bActiveDuringIdle = active; }
+
+private:
+    double dDelay = 0.0;
+    bool bActiveDuringIdle = false;
+};

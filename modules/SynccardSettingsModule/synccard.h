@@ -1,0 +1,57 @@
+#pragma once
+
+#include "channel.h"
+
+#include <QList>
+#include <QString>
+
+/**
+ * The direct settings of one synccard. A record of values only; it owns its channels and is not copied.
+ * Cards and channels count from 0 here and from 1 in commands: card 0 is "d01", position 0 of the channels "ch01".
+ */
+class Synccard
+{
+public:
+    explicit Synccard(int index) : iId(index) {}
+    ~Synccard()
+    {
+        while (!channels.isEmpty())
+            delete channels.takeFirst();
+    }
+    Q_DISABLE_COPY(Synccard)
+
+    int id() const { return iId; }
+
+    /** The identifier of the active mode, or "direct settings". */
+    QString activeMode() const { return sActiveMode; }
+
+    /** The sync source's keyword, such as "internal" ("synccard source"). */
+    QString activeSource() const { return sActiveSource; }
+
+    /** The internal frequency in Hz ("synccard internal_frequency"). */
+    double frequency() const { return dFrequency; }
+
+    /** The divisor for an external signal ("synccard external_divisor"). */
+    int externalDivisor() const { return iExternalDivisor; }
+
+    int channelsCount() const { return channels.size(); }
+
+    /** The channel at \a index, still owned by the card; null outside 0 to channelsCount() - 1. */
+    Channel* channel(int index) const { return channels.value(index, nullptr); }
+
+    void setActiveMode(const QString& mode) { sActiveMode = mode; }
+    void setActiveSource(const QString& source) { sActiveSource = source; }
+    void setFrequency(double frequency) { dFrequency = frequency; }
+    void setExternalDivisor(int divisor) { iExternalDivisor = divisor; }
+
+    /** Appends \a channel, allocated with new, and takes ownership. */
+    void addChannel(Channel* channel) { channels.append(channel); }
+
+private:
+    int iId;
+    QString sActiveMode = QLatin1String("");
+    QString sActiveSource = QLatin1String("");
+    double dFrequency = 60.0;
+    int iExternalDivisor = 1;
+    QList<Channel*> channels;
+};
