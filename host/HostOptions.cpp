@@ -1,0 +1,71 @@
+#include "HostOptions.h"
+
+#include "ControllerFile.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+namespace {
+
+void say(FILE* stream, const QString& text)
+{
+    static_cast<void>(std::fputs(qPrintable(text), stream));
+}
+
+} // namespace
+
+HostOptions::HostOptions(const QString& description)
+{
+    parser.setApplicationDescription(description);
+    parser.addOption({{"h", "help"}, "Shows this help."});
+    parser.addOption({{"v", "version"}, "Shows the version."});
+    parser.addOption({"controller", "Takes the simulated controller from <file> (JSON).", "file"});
+}
+
+bool HostOptions::parse(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (!parser.parse(QCoreApplication::arguments()))
+        return end(fail(parser.errorText() + " See --help."));
+    if (!parser.positionalArguments().isEmpty())
+        return end(fail("Unexpected argument '" + parser.positionalArguments().first() + "'. See --help."));
+    if (parser.isSet("help")) {
+        say(stdout, parser.helpText());
+        return end(0);
+    }
+    if (parser.isSet("version")) {
+        say(stdout, QCoreApplication::applicationName() + " " HOST_VERSION "\n");
+        return end(0);
+    }
+    return readController() && readProtocol();
+}
+
+bool HostOptions::readController()
+{
+    QString error;
+    if (parser.isSet("controller") && !readControllerFile(parser.value("controller"), &state, &error))
+        return end(fail(error));
+    return true;
+}
+
+bool HostOptions::readProtocol()
+{
+    const QString text = parser.optionNames().contains("protocol") ? parser.value("protocol") : QString();
+    bool isVersion = text.isEmpty();
+    if (!text.isEmpty())
+        state.protocol.fromString(text, &isVersion);
+    return isVersion || end(fail("--protocol " + text + ": a version such as 1.23 or 1.23.0 is expected"));
+}
+
+bool HostOptions::end(int exitStatus)
+{
+    status = exitStatus;
+    return false;
+}
+
+int HostOptions::fail(const QString& message)
+{
+    say(stderr, QCoreApplication::applicationName() + ": " + message + '\n');
+    return 2;
+}

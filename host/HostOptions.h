@@ -1,0 +1,42 @@
+#pragma once
+
+#include "ControllerState.h"
+
+#include <QCommandLineParser>
+
+/**
+ * The command line of the host's programs: --help, --version and --controller, and what a program adds. Errors are
+ * one line on standard error.
+ */
+class HostOptions
+{
+public:
+    explicit HostOptions(const QString& description);
+
+    /** Adds an option of one program; --protocol is understood here. */
+    void addOption(const QCommandLineOption& option) { parser.addOption(option); }
+
+    /**
+     * Reads the program's arguments, before there is a QApplication: that would take --plugin for its own and needs a
+     * display. False when the program shall end with exitStatus(): 0 after --help and --version, 2 after a mistake.
+     */
+    bool parse(int argc, char* argv[]);
+    int exitStatus() const { return status; }
+
+    QString value(const QString& option) const { return parser.value(option); }
+
+    /** The built-in controller, or the one that --controller names, with the protocol that --protocol names. */
+    const ControllerState& controllerState() const { return state; }
+
+    /** Says \a message on standard error and returns the exit status 2. */
+    static int fail(const QString& message);
+
+private:
+    bool end(int exitStatus);
+    bool readController();
+    bool readProtocol();
+
+    QCommandLineParser parser;
+    ControllerState state = ControllerState::builtIn();
+    int status = 0;
+};

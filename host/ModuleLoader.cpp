@@ -1,0 +1,118 @@
+#include "ModuleLoader.h"
+
+#include "BackendVersions.h"
+#include "IOManager.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonObject>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <algorithm>
+
+namespace {
+
+const char* const pluginIdentifier = "org.zorvan.Zorvan2.SnyccardSettingsModule";
+const char* const orderProperty = "orderNumber";
+
+/** The first of \a widget's actions whose order number is above \a order; null when the place is the end. */
+QAction* actionBehind(const QWidget* widget, int order)
+{
+    const QList<QAction*> actions = widget->actions();
+    const auto isBehind = [order](const QAction* action) { return action->property(orderProperty).toInt() > order; };
+    const auto found = std::find_if(actions.begin(), actions.end(), isBehind);
+    return found == actions.end() ? nullptr : *found;
+}
+
+/** The menu \a title of \a menuBar, made at its place when there is none yet. */
+QMenu* menuFor(QMenuBar* menuBar, const QString& title, int order)
+{
+    const QList<QAction*> actions = menuBar->actions();
+    const auto isIt = [&](const QAction* action) { return action->menu() && action->text() == title; };
+    const auto found = std::find_if(actions.begin(), actions.end(), isIt);
+    if (found != actions.end())
+        return (*found)->menu();
+    auto* menu = new QMenu(title, menuBar);
+    menu->menuAction()->setProperty(orderProperty, order);
+    menuBar->insertMenu(actionBehind(menuBar, order), menu);
+    return menu;
+}
+
+} // namespace
+
+ModuleLoader::ModuleLoader(const QString& file) : file(QFileInfo(file).absoluteFilePath()), loader(this->file)
+{
+    // Qt would keep the library mapped for good.
+    loader.setLoadHints(QLibrary::LoadHints());
+}
+
+ModuleLoader::~ModuleLoader()
+{
+    unload();
+}
+
+QString ModuleLoader::defaultFile()
+{
+    return QCoreApplication::applicationDirPath() + "/../" MODULE_DIR "/libSynccardSettingsModule.so";
+}
+
+bool ModuleLoader::load()
+{
+    const QString expectedPlugin = QString("a module plug-in \"%1\"").arg(QLatin1String(pluginIdentifier));
+    if (!QFileInfo(file).isFile())
+        return refuse(expectedPlugin, "no such file");
+    const QString identifier = loader.metaData().value("IID").toString();
+    if (identifier.isEmpty())
+        return refuse(expectedPlugin, "no Qt plug-in");
+    if (identifier != pluginIdentifier)
+        return refuse(expectedPlugin, '"' + identifier + '"');
+    QObject* instance = loader.instance();
+    if (!instance)
+        return refuse("a plug-in that loads", loader.errorString());
+    interface = qobject_cast<ModuleInterface*>(instance);
+    if (!interface) {
+        const QString className = instance->metaObject()->className();
+        loader.unload();
+        return refuse(QString("an object with the interface \"%1\"")
+                          .arg(QLatin1String(qobject_interface_iid<ModuleInterface*>())),
+                      className + " without it");
+    }
+    return true;
+}
+
+bool ModuleLoader::refuse(const QString& expected, const QString& found)
+{
+    error = QString("%1: expected %2, found %3").arg(file, expected, found);
+    return false;
+}
+
+void ModuleLoader::setParameters(IOManager* commandManager, QWidget* moduleParent, BackendVersions* versions,
+                                 bool observerMode)
+{
+    interface->set_param("CommandManager", QVariant::fromValue(commandManager));
+    interface->set_param("ModuleParent", QVariant::fromValue(moduleParent));
+    interface->set_param("BackendVersions", QVariant::fromValue(versions));
+    interface->set_param("ObserverMode", observerMode);
+}
+
+void ModuleLoader::placeElements(QMenuBar* menuBar)
+{
+    const QList<_GuiElement*> elements = interface->get_gui_elements();
+    for (const GuiElement* element : elements) {
+        QMenu* menu = menuFor(menuBar, element->menu_name, element->menu_order_number);
+        element->menu_entry->setProperty(orderProperty, element->menu_entry_order_number);
+        menu->insertAction(actionBehind(menu, element->menu_entry_order_number), element->menu_entry);
+    }
+}
+
+void ModuleLoader::unload()
+{
+    if (!interface)
+        return;
+    interface->about_to_exit_module();
+    interface->exit_module();
+    delete interface;
+    interface = nullptr;
+    loader.unload();
+}

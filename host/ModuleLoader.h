@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ModuleInterface.h"
+
+#include <QPluginLoader>
+
+class BackendVersions;
+class IOManager;
+class QMenuBar;
+
+/**
+ * One module plug-in, from the file to its place in the menus and back. load() first, then setParameters(), then
+ * placeElements(); unload() or the destructor ends the module in the order of the contract. What is handed over
+ * stays the caller's and must outlive the module.
+ */
+class ModuleLoader
+{
+public:
+    explicit ModuleLoader(const QString& file);
+    ~ModuleLoader();
+    Q_DISABLE_COPY(ModuleLoader)
+
+    /** Where the plug-in lies beside the running program, in the build tree as in an installation. */
+    static QString defaultFile();
+
+    QString fileName() const { return file; }
+
+    /** Reads the metadata, and loads the plug-in if its identifiers are the expected ones. */
+    bool load();
+
+    /** Why load() refused: file, expected and found, in one line. */
+    QString errorString() const { return error; }
+
+    /** The module object; null when none is loaded. It belongs to this loader. */
+    ModuleInterface* module() const { return interface; }
+
+    /** Hands the host's four values over. */
+    void setParameters(IOManager* commandManager, QWidget* moduleParent, BackendVersions* versions, bool observerMode);
+
+    /** Places the module's menu entries into \a menuBar by their order numbers. */
+    void placeElements(QMenuBar* menuBar);
+
+    /** Ends the module, deletes it and unmaps the library. */
+    void unload();
+
+private:
+    bool refuse(const QString& expected, const QString& found);
+
+    QString file;
+    QPluginLoader loader;
+    ModuleInterface* interface = nullptr;
+    QString error;
+};
