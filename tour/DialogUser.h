@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QDialog>
+#include <QPointer>
+
+#include <functional>
+
+class QDoubleSpinBox;
+
+/** A user's hands on the module's dialog: real key and mouse events, on any platform plug-in. Does not own it. */
+class DialogUser
+{
+public:
+    using Steps = std::function<void()>;
+
+    enum Outcome {
+        NotShown,
+        Closed,   // by the steps
+        LeftOpen, // by the steps, and closed then
+    };
+
+    explicit DialogUser(QDialog* dialog) : target(dialog) {}
+
+    /** Runs \a trigger, which opens the dialog modally, and once it is up and active, inside it, \a steps. */
+    Outcome openBy(const Steps& trigger, const Steps& steps) const;
+
+    /** The dialog; null once it is deleted. */
+    QDialog* dialog() const { return target; }
+
+    template <typename Widget>
+    Widget* find(const char* name) const
+    {
+        return target->findChild<Widget*>(name);
+    }
+
+    /** Presses \a key in the named widget. */
+    void press(const char* name, Qt::Key key) const;
+    /** Presses Alt and \a key: the label with that mnemonic gives its widget the focus. */
+    void focus(Qt::Key key) const;
+    /** Picks the item with the user data \a data by keys; false when there is none. */
+    bool choose(const char* name, const QString& data) const;
+    /** Clicks into a channel cell, on the check box if it has one. */
+    void clickCell(int row, int column) const;
+    /** Opens the delay editor of \a row by a double click, once an earlier one is gone; null when it does not open. */
+    QDoubleSpinBox* editDelay(int row) const;
+    /** Replaces the editor's text by \a text and leaves it by \a key. */
+    static void type(QWidget* editor, const QString& text, Qt::Key key = Qt::Key_Tab);
+    /** Leaves by "OK", "Cancel", "Escape" or "close", the window's close button. */
+    void leave(const QByteArray& way) const;
+
+private:
+    QPointer<QDialog> target;
+};
