@@ -1,0 +1,64 @@
+#pragma once
+
+#include "BackendVersions.h"
+#include "DialogUser.h"
+#include "ModuleLoader.h"
+#include "ScriptedChannel.h"
+
+#include <QDialog>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+/** The built plug-in, loaded as a host does it, before the scripted channel; every Qt warning fails the test. */
+class Bench
+{
+public:
+    explicit Bench(const QByteArray& protocol = "1.23", const QByteArray& script = QByteArray(),
+                   const QString& model = "FERNBANK");
+    ~Bench();
+
+    QDialog* dialog() const { return qobject_cast<QDialog*>(element->content); }
+    /** The hands on the dialog as it is now. */
+    DialogUser user() const { return DialogUser(dialog()); }
+
+    template <typename Widget>
+    Widget* find(const char* name) const
+    {
+        return dialog()->findChild<Widget*>(name);
+    }
+
+    /** Opens the dialog by its slot and runs \a steps inside its modal loop; what update_and_exec() returned. */
+    int open(const DialogUser::Steps& steps) const;
+    /** The same, opening it by \a trigger; fails the test when \a steps leave it open. */
+    void openBy(const DialogUser::Steps& trigger, const DialogUser::Steps& steps) const;
+    /** Opens the dialog and leaves by Escape. */
+    int look() const
+    {
+        return open([this] { user().leave("Escape"); });
+    }
+
+    /**
+     * Content and state of the named widget: a selector as "*text=data|...", a spin box as "minimum..maximum:value", a
+     * table row by row, a label by its text; behind it " off" when disabled and " hidden" when hidden.
+     */
+    QByteArray see(const QByteArray& name) const;
+
+    ScriptedChannel channel;
+    BackendVersions versions;
+    QPointer<QWidget> parent;
+    ModuleLoader loader;
+    GuiElement* element = nullptr;
+    QByteArrayList boxes;                                // "title: text" of each message box shown, then closed by OK
+    std::function<void()> insteadOfClosingBox = nullptr; // run while a box is open
+
+private:
+    void closeBox();
+
+    QTimer boxPoller;
+};
+
+/** Fails the running test at any Qt warning but the offscreen platform's own. */
+void failOnWarnings();

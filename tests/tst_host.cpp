@@ -1,0 +1,198 @@
+#include "ControllerFile.h"
+#include "DevelopmentHost.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <clocale>
+
+/** The development host: its controller, channel, files, loader and command line. */
+class TestHost : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void answers_data();
+    void answers();
+    void movesWithTheSource();
+    void formatsWithoutLocale();
+    void refusesLongAnswers();
+    void readsControllerFiles_data();
+    void readsControllerFiles();
+    void namesWhatIsWrong();
+    void placesTheEntry();
+    void countsReports();
+};
+
+/** Rows of two texts from a file of tests/data: "left -> right". */
+void addRows(const char* name)
+{
+    QTest::addColumn<QByteArray>("left");
+    QTest::addColumn<QByteArray>("right");
+    QFile file(QString(DATA_DIR "/") + name);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        const int arrow = line.indexOf(" ->");
+        if (!line.startsWith('#') && arrow > 0)
+            QTest::newRow(line.left(arrow)) << line.left(arrow).replace("\\n", "\n") << line.mid(arrow + 4);
+    }
+}
+
+void TestHost::answers_data()
+{
+    addRows("controller-answers.txt");
+}
+
+void TestHost::answers()
+{
+    QFETCH(QByteArray, left);
+    const QByteArray& command = left;
+    SimulatedController controller(ControllerState::builtIn());
+    const ControllerReply reply = controller.execute("zorvan2 " + command);
+    const QByteArray value = command.startsWith("set") ? "ok" : reply.line.mid(command.size() + 9);
+    QTEST(reply.ok ? value : "failed", "right");
+    ControllerState locked = ControllerState::builtIn();
+    locked.locked = true;
+    controller.setState(locked);
+    QVERIFY(command.startsWith("get") || !controller.execute("zorvan2 " + command).ok);
+    locked.protocol = VersionInfo(0, 7, 9);
+    controller.setState(locked);
+    QVERIFY(!controller.execute("zorvan2 " + command).ok);
+}
+
+/** What is set is read back; a source that allows less takes divisor and output along. */
+void TestHost::movesWithTheSource()
+{
+    DevelopmentHost host(ControllerState::builtIn(), QString());
+    const auto set = [&](const char* command) {
+        return host.controller.execute("zorvan2 set synccard " + QByteArray(command)).ok;
+    };
+    QVERIFY(set("external_divisor d01 40") && set("output d01 ttlinv") && set("source d01 video"));
+    QVERIFY(set("output_delay d02 ch04 1.5") && set("output_during_idle d02 ch04 yes"));
+    const CardState& card = host.controller.state().cards.at(0);
+    QCOMPARE(QString("%1 %2 %3").arg(card.source).arg(card.divisor).arg(card.output), "video 10 none");
+    const ChannelState& channel = host.controller.state().cards.at(1).channels.at(3);
+    QVERIFY(channel.delay == 1.5 && channel.activeDuringIdle);
+}
+
+void TestHost::formatsWithoutLocale()
+{
+    if (qEnvironmentVariableIsSet("LOCPATH"))
+        QCOMPARE(QByteArray(localeconv()->decimal_point), QByteArray(","));
+    SimulatedController controller(ControllerState::builtIn());
+    ControllerChannel channel(&controller);
+    QByteArray command;
+    connect(&channel, &ControllerChannel::executed, this,
+            [&](const CommandRecord& record) { command = record.command; });
+    QCOMPARE(channel.setParameter("synccard internal_frequency d%2.2d %.6f", 1, 59.94), 0);
+    QCOMPARE(command, QByteArray("synccard internal_frequency d01 59.940000"));
+    double frequency = 0.0;
+    QCOMPARE(channel.getParameterDouble(&frequency, "synccard internal_frequency d01"), 0);
+    QCOMPARE(frequency, 59.94);
+    int number = 7;
+    bool flag = true;
+    QVERIFY(channel.getParameterInt(&number, "synccard output d01") != 0 && number == 7);
+    QVERIFY(channel.getParameterBool(&flag, "synccard output d01") != 0 && flag);
+}
+
+/** An answer that just fits is taken, one character more is refused and the buffer left alone. */
+void TestHost::refusesLongAnswers()
+{
+    ControllerState state = ControllerState::builtIn();
+    SimulatedController controller(state);
+    ControllerChannel channel(&controller);
+    char answer[201] = "untouched";
+    for (const int length : {199, 200}) {
+        state.input = QString(length, 'x');
+        controller.setState(state);
+        const int result = channel.getParameter(answer, "synccard input_frequency");
+        QCOMPARE(result == 0, length == 199);
+        QCOMPARE(qstrlen(answer), 199U);
+        state.cards[0].output = QString(length - 100, 'y');
+        controller.setState(state);
+        QCOMPARE(channel.getParameter(answer, "synccard output d01") == 0, length == 199);
+        QCOMPARE(channel.getParameter(answer, "synccard input_frequency"), length == 199 ? 0 : -1);
+    }
+}
+
+void TestHost::readsControllerFiles_data()
+{
+    addRows("controller-files.txt");
+}
+
+void TestHost::readsControllerFiles()
+{
+    QFETCH(QByteArray, left);
+    QFETCH(QByteArray, right);
+    QTemporaryDir folder;
+    QFile file(folder.filePath("controller.json"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(left);
+    file.close();
+    ControllerState state = ControllerState::builtIn();
+    const QJsonObject before = state.toJson();
+    QString found;
+    QCOMPARE(readControllerFile(file.fileName(), &state, &found), right.isEmpty());
+    QCOMPARE(found, right.isEmpty() ? QString() : file.fileName() + ": " + right);
+    QVERIFY(right.isEmpty() || state.toJson() == before);
+}
+
+/** A mistake on the command line is one line that names place and remedy, and exit status 2. */
+void TestHost::namesWhatIsWrong()
+{
+    const QString noModule = ": expected a module plug-in \"org.zorvan.Zorvan2.SnyccardSettingsModule\", found ";
+    const QString noInterface =
+        ": expected an object with the interface \"org.zorvan.zorvan2.gui.Module/0.2.0\", found ";
+    const QMap<QString, QString> lines = {
+        {"--help", ""},
+        {"--version", ""},
+        {"--colour", "Unknown option 'colour'. See --help."},
+        {"x", "Unexpected argument 'x'. See --help."},
+        {"--protocol=1", "--protocol 1: a version such as 1.23 or 1.23.0 is expected"},
+        {"--controller=/none.json", "/none.json: No such file or directory"},
+        {"--plugin=/none.so", "/none.so" + noModule + "no such file"},
+        {"--plugin=" HOST_PROGRAM, HOST_PROGRAM + noModule + "no Qt plug-in"},
+        {"--plugin=" OTHER_PLUGIN, OTHER_PLUGIN + noModule + "\"org.example.Other\""},
+        {"--plugin=" NO_MODULE, NO_MODULE + noInterface + "NoModule without it"}};
+    for (auto line = lines.begin(); line != lines.end(); ++line) {
+        QProcess host;
+        host.start(HOST_PROGRAM, {line.key()});
+        QVERIFY(host.waitForFinished());
+        QCOMPARE(host.exitCode(), line.value().isEmpty() ? 0 : 2);
+        const QString expected = line.value().isEmpty() ? QString() : "synccard-host: " + line.value() + '\n';
+        QCOMPARE(QString(host.readAllStandardError()), expected);
+    }
+}
+
+void TestHost::placesTheEntry()
+{
+    DevelopmentHost host(ControllerState::builtIn(), ModuleLoader::defaultFile());
+    QMenuBar* bar = host.window.menuBar();
+    bar->addMenu("Late")->menuAction()->setProperty("orderNumber", 300);
+    QMenu* hardware = bar->addMenu("Early");
+    hardware->menuAction()->setProperty("orderNumber", 100);
+    QVERIFY2(host.start(), qPrintable(host.errorString()));
+    QStringList titles;
+    for (const QAction* action : bar->actions())
+        titles.append(action->text());
+    QCOMPARE(titles.indexOf("H&ardware") + 1, titles.indexOf("Late"));
+    QVERIFY(QIcon(":/lock.png").availableSizes().contains(QSize(48, 48)));
+}
+
+void TestHost::countsReports()
+{
+    DevelopmentHost host(ControllerState::builtIn(), QString());
+    const auto shown = [&] {
+        host.channel.reportError("standard", "ZORVAN3", 1, "Error: <b>x</b>");
+        return host.window.findChild<QLabel*>("newestReport")->text();
+    };
+    QCOMPARE(shown(), "Error: <b>x</b>");
+    QCOMPARE(shown(), "Error: <b>x</b> (2 times)");
+}
+
+QTEST_MAIN(TestHost)
+#include "tst_host.moc"
