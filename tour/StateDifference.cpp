@@ -19,22 +19,22 @@ QString text(const QJsonValue& value)
 QString inArrays(const QJsonArray& expected, const QJsonArray& found, const QString& place)
 {
     for (int i = 0; i < qMax(expected.size(), found.size()); ++i) {
-        const QString difference = firstDifference(expected.at(i), found.at(i), QString("%1[%2]").arg(place).arg(i));
+        QString difference = firstDifference(expected.at(i), found.at(i), QString("%1[%2]").arg(place).arg(i));
         if (!difference.isEmpty())
             return difference;
     }
-    return QString();
+    return {};
 }
 
 QString inObjects(const QJsonObject& expected, const QJsonObject& found, const QString& place)
 {
     for (const QString& key : expected.keys()) {
-        const QString difference =
+        QString difference =
             firstDifference(expected.value(key), found.value(key), place.isEmpty() ? key : place + '.' + key);
         if (!difference.isEmpty())
             return difference;
     }
-    return QString();
+    return {};
 }
 
 } // namespace
@@ -48,6 +48,6 @@ QString firstDifference(const QJsonValue& expected, const QJsonValue& found, con
     const bool areNear =
         expected.isDouble() && found.isDouble() && std::abs(expected.toDouble() - found.toDouble()) < wirePrecision;
     if (areNear || expected == found)
-        return QString();
+        return {};
     return QString("%1: %2 expected, %3 found").arg(place, text(expected), text(found));
 }
