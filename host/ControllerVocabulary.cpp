@@ -115,11 +115,11 @@ bool setIdle(Access& a, const QString& value)
     return true;
 }
 
-const VersionInfo modes(0, 8, -1);
-const VersionInfo cards(0, 13, -1);
-const VersionInfo frequencyLimit(1, 5, -1);
-const VersionInfo configLock(1, 9, -1);
-const VersionInfo outputs(1, 23, -1);
+constexpr ProtocolGate modes{0, 8};
+constexpr ProtocolGate cards{0, 13};
+constexpr ProtocolGate frequencyLimit{1, 5};
+constexpr ProtocolGate configLock{1, 9};
+constexpr ProtocolGate outputs{1, 23};
 
 constexpr double minimumFrequency = 10.0;
 
@@ -159,7 +159,7 @@ template <typename Items>
 auto* entry(Items& items, const QString& prefix, const QString& word)
 {
     bool isNumber = false;
-    const int position = word.mid(prefix.size()).toInt(&isNumber);
+    const int position = word.midRef(prefix.size()).toInt(&isNumber);
     const bool isEntry = word.startsWith(prefix) && isNumber && position >= 1 && position <= items.size();
     return isEntry ? &items[position - 1] : nullptr;
 }
@@ -191,7 +191,8 @@ const Parameter* findParameter(const QStringList& words, ParameterAccess* access
 {
     const auto matches = [&](const Parameter& parameter) { return words.size() >= 2 && isNamed(parameter, words); };
     const auto* found = std::find_if(std::begin(parameters), std::end(parameters), matches);
-    if (found == std::end(parameters) || access->state->protocol < found->since)
+    if (found == std::end(parameters)
+        || access->state->protocol < VersionInfo(found->since.major, found->since.minor, -1))
         return nullptr;
     for (int i = 2; i < words.size(); ++i) {
         if (!resolve(found->qualifiers[i - 2], words.at(i), access))

@@ -29,7 +29,7 @@ bool HostOptions::parse(int argc, char* argv[])
     if (!parser.parse(QCoreApplication::arguments()))
         return end(fail(parser.errorText() + " See --help."));
     if (!parser.positionalArguments().isEmpty())
-        return end(fail("Unexpected argument '" + parser.positionalArguments().first() + "'. See --help."));
+        return end(fail("Unexpected argument '" + parser.positionalArguments().constFirst() + "'. See --help."));
     if (parser.isSet("help")) {
         say(stdout, parser.helpText());
         return end(0);

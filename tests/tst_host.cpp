@@ -35,7 +35,8 @@ void addRows(const char* name)
     QTest::addColumn<QByteArray>("right");
     QFile file(QString(DATA_DIR "/") + name);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    for (const QByteArray& line : file.readAll().split('\n')) {
+    const QByteArrayList lines = file.readAll().split('\n');
+    for (const QByteArray& line : lines) {
         const int arrow = line.indexOf(" ->");
         if (!line.startsWith('#') && arrow > 0)
             QTest::newRow(line.left(arrow)) << line.left(arrow).replace("\\n", "\n") << line.mid(arrow + 4);
@@ -177,7 +178,8 @@ void TestHost::placesTheEntry()
     hardware->menuAction()->setProperty("orderNumber", 100);
     QVERIFY2(host.start(), qPrintable(host.errorString()));
     QStringList titles;
-    for (const QAction* action : bar->actions())
+    const QList<QAction*> actions = bar->actions();
+    for (const QAction* action : actions)
         titles.append(action->text());
     QCOMPARE(titles.indexOf("H&ardware") + 1, titles.indexOf("Late"));
     QVERIFY(QIcon(":/lock.png").availableSizes().contains(QSize(48, 48)));

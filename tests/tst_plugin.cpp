@@ -45,6 +45,12 @@ public:
     bool isEmpty() const override { return false; }
 };
 
+template <typename Widget>
+const QList<Widget*> all(const Bench& bench)
+{
+    return bench.dialog()->findChildren<Widget*>();
+}
+
 } // namespace
 
 void TestPlugin::comparesVersions()
@@ -138,7 +144,7 @@ void TestPlugin::offersOneEntry()
     bench.loader.module()->exit_module();
     bench.loader.module()->exit_module();
     QVERIFY(!bench.element->content && bench.element->menu_entry == action);
-    QVERIFY(bench.loader.module()->get_gui_elements().first()->menu_entry != action);
+    QVERIFY(bench.loader.module()->get_gui_elements().constFirst()->menu_entry != action);
     bench.loader.unload();
     QVERIFY(!action);
 }
@@ -151,7 +157,7 @@ void TestPlugin::takesParameters()
     module->exit_module();
     module->set_param("commandmanager", QVariant());
     module->set_param("ModuleParent", QVariant::fromValue<QObject*>(this));
-    bench.element = module->get_gui_elements().first();
+    bench.element = module->get_gui_elements().constFirst();
     QVERIFY(!bench.dialog()->parentWidget());
     bench.look();
     QVERIFY(!bench.channel.takeCommands().isEmpty());
@@ -228,14 +234,14 @@ void TestPlugin::translatesEveryText()
                          bench.loader.module()->get_module_name(),
                          bench.dialog()->windowTitle()};
     bench.open([&] {
-        for (const auto* widget : bench.dialog()->findChildren<QWidget*>())
+        for (const auto* widget : all<QWidget>(bench))
             texts.append(widget->whatsThis());
-        for (const auto* label : bench.dialog()->findChildren<QLabel*>())
+        for (const auto* label : all<QLabel>(bench))
             texts.append(label->text());
         for (const char* name : {"comboBox_source", "comboBox_output"})
             for (int i = 0; i < bench.find<QComboBox>(name)->count(); ++i)
                 texts.append(bench.find<QComboBox>(name)->itemText(i));
-        for (const auto* table : bench.dialog()->findChildren<QTableWidget*>())
+        for (const auto* table : all<QTableWidget>(bench))
             for (int i = 0; i < table->columnCount(); ++i)
                 texts.append(table->horizontalHeaderItem(i)->text());
         for (const QString& text : qAsConst(texts))

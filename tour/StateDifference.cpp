@@ -28,7 +28,8 @@ QString inArrays(const QJsonArray& expected, const QJsonArray& found, const QStr
 
 QString inObjects(const QJsonObject& expected, const QJsonObject& found, const QString& place)
 {
-    for (const QString& key : expected.keys()) {
+    const QStringList keys = expected.keys();
+    for (const QString& key : keys) {
         QString difference =
             firstDifference(expected.value(key), found.value(key), place.isEmpty() ? key : place + '.' + key);
         if (!difference.isEmpty())

@@ -96,7 +96,7 @@ Bench::Bench(const QByteArray& protocol, const QByteArray& script, const QString
         qFatal("%s", qPrintable(loader.errorString()));
     loader.setParameters(&channel, parent, &versions, false);
     element = loader.module()->get_gui_elements().first();
-    QObject::connect(&boxPoller, &QTimer::timeout, [this] { closeBox(); });
+    QObject::connect(&boxPoller, &QTimer::timeout, &boxPoller, [this] { closeBox(); });
     boxPoller.start(pollMilliseconds);
 }
 

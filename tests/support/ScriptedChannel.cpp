@@ -14,7 +14,8 @@ ScriptedChannel::ScriptedChannel()
 
 void ScriptedChannel::script(const QByteArray& changes)
 {
-    for (const QByteArray& change : changes.split(';')) {
+    const QByteArrayList all = changes.split(';');
+    for (const QByteArray& change : all) {
         const int separator = change.indexOf('=');
         if (separator > 0)
             answers.insert(change.left(separator), change.mid(separator + 1));
