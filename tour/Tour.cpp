@@ -23,10 +23,9 @@ void print(const QString& line)
 void printCommand(const CommandRecord& record)
 {
     const QString outcome = record.result == 0 ? QString::fromLatin1(record.answer) : QString("failed");
-    print(
-        QString("%1 %2 -> %3 (%4)")
-            .arg(QString::fromLatin1(record.operation).leftJustified(18), QString::fromLatin1(record.command), outcome)
-            .arg(record.result));
+    print(QString("%1 %2 -> %3 (%4)")
+              .arg(QString::fromLatin1(record.operation).leftJustified(6), QString::fromLatin1(record.command), outcome)
+              .arg(record.result));
 }
 
 /** What OK leaves of a card's direct settings: two decimals of the frequency, whole microseconds of the delays. */

@@ -1,7 +1,5 @@
 #include "ScriptedChannel.h"
 
-#include "LocaleFreeFormat.h"
-
 #include <QFile>
 
 ScriptedChannel::ScriptedChannel()
@@ -22,77 +20,17 @@ void ScriptedChannel::script(const QByteArray& changes)
     }
 }
 
-QByteArrayList ScriptedChannel::takeCommands()
+bool ScriptedChannel::execute(const QByteArray& operation, const QByteArray& command, QByteArray* answer)
 {
-    return std::exchange(commands, {});
-}
-
-QByteArrayList ScriptedChannel::takeReports()
-{
-    return std::exchange(reports, {});
-}
-
-/** True with the answer when the script knows the command, alone or behind its operation, and does not fail it. */
-bool ScriptedChannel::ask(const char* operation, const char* format, va_list arguments, QByteArray* answer)
-{
-    const QByteArray text = formatLocaleFree(format, arguments);
-    const QByteArray command = operation + (' ' + text);
-    commands.append(command);
-    *answer = answers.value(command, answers.value(text, "!"));
+    const bool isSet = operation == "set";
+    *answer = answers.value(operation + ' ' + command, answers.value(command, isSet ? "" : "!"));
+    if (isSet && *answer != "!") {
+        const int separator = command.lastIndexOf(' ');
+        const auto name = answers.find(command.left(separator));
+        if (name != answers.end())
+            *name = command.mid(separator + 1);
+    }
     return *answer != "!";
-}
-
-#define ASK(operation)                                                                                                 \
-    QByteArray value;                                                                                                  \
-    va_list arguments;                                                                                                 \
-    va_start(arguments, format);                                                                                       \
-    bool ok = ask(operation, format, arguments, &value);                                                               \
-    va_end(arguments)
-
-int ScriptedChannel::sendCommand(char* answer, const char* format, ...)
-{
-    ASK("send");
-    qstrcpy(answer, ok ? value.constData() : "garbage after a failure");
-    return ok ? 0 : 7;
-}
-
-int ScriptedChannel::getParameter(char* answer, const char* format, ...)
-{
-    ASK("get");
-    qstrcpy(answer, ok ? value.constData() : "yes");
-    return ok ? 0 : -1;
-}
-
-int ScriptedChannel::getParameterInt(int* result, const char* format, ...)
-{
-    ASK("int");
-    *result = value.toInt(ok ? &ok : nullptr);
-    return ok ? 0 : 1;
-}
-
-int ScriptedChannel::getParameterDouble(double* result, const char* format, ...)
-{
-    ASK("double");
-    *result = value.toDouble(ok ? &ok : nullptr);
-    return ok ? 0 : 1;
-}
-
-int ScriptedChannel::getParameterBool(bool* result, const char* format, ...)
-{
-    ASK("bool");
-    *result = !ok || value == "yes";
-    return ok ? 0 : 1;
-}
-
-int ScriptedChannel::setParameter(const char* format, ...)
-{
-    ASK("set");
-    const QByteArray text = commands.last().mid(4);
-    const QByteArray name = text.left(text.lastIndexOf(' '));
-    ok = answers.value(commands.last()) != "!";
-    if (ok && answers.contains(name))
-        answers.insert(name, text.mid(name.size() + 1));
-    return ok ? 0 : -5;
 }
 
 void ScriptedChannel::reportError(const char* category, const char* systemTag, int flag, const char* message)

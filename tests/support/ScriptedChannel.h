@@ -1,41 +1,38 @@
 #pragma once
 
-#include "IOManager.h"
+#include "FormattingChannel.h"
 
 #include <QByteArrayList>
 #include <QMap>
 
-#include <cstdarg>
-
 /**
- * The command channel of all tests: answers from a table, records every command behind the operation's name ("get
- * synccard available"), takes over what is set, and fails what it is told to fail.
+ * The command channel of all tests: answers from a table, records every command behind its operation ("get synccard
+ * available"), takes over what is set, and fails what it is told to fail.
  */
-class ScriptedChannel : public IOManager
+class ScriptedChannel : public FormattingChannel
 {
 public:
-    /** Answers as a protocol 1.23 controller with two cards, two channels and two modes, on direct settings. */
+    /** Answers as tests/data/standard-controller.txt says. */
     ScriptedChannel();
 
-    int sendCommand(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int getParameter(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int getParameterInt(int* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int getParameterDouble(double* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int getParameterBool(bool* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int setParameter(const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
     void reportError(const char* category, const char* systemTag, int flag, const char* message) override;
 
-    /** Changes answers: "command=answer" each, "command=!" for a command that fails; separated by semicolons. */
+    /**
+     * Changes answers: "command=answer" each, "command=!" for a command that fails, separated by semicolons; a command
+     * behind its operation means that operation only.
+     */
     void script(const QByteArray& changes);
 
-    QByteArrayList takeCommands();
-    QByteArrayList takeReports();
+    QByteArrayList takeCommands() { return std::exchange(commands, {}); }
+    QByteArrayList takeReports() { return std::exchange(reports, {}); }
 
-    QMap<QByteArray, QByteArray> answers;
     QByteArrayList commands;
     QByteArrayList reports;
 
+protected:
+    bool execute(const QByteArray& operation, const QByteArray& command, QByteArray* answer) override;
+    void finished(const CommandRecord& record) override { commands.append(record.operation + ' ' + record.command); }
+
 private:
-    bool ask(const char* operation, const char* format, va_list arguments, QByteArray* answer)
-        Q_ATTRIBUTE_FORMAT_PRINTF(3, 0);
+    QMap<QByteArray, QByteArray> answers;
 };
