@@ -194,6 +194,10 @@ void TestPlugin::hasForm()
                         "on_comboBox_source_currentIndexChanged(int) on_doubleSpinBox_frequency_valueChanged(double) "
                         "on_spinBox_externalDivisor_valueChanged(int) accept() reject() poll_input_frequency()"));
     QCOMPARE(bench.dialog()->objectName(), "synccarddialog");
+    for (const char* name : {"label_inputSource", "label_inputFrequency"})
+        QCOMPARE(bench.find<QLabel>(name)->textFormat(), Qt::PlainText);
+    for (const char* name : {"tableWidget_synccards", "tableWidget_channels"})
+        QCOMPARE(bench.find<QTableWidget>(name)->columnWidth(0), 200);
     bench.open([&] {
         const QMap<Qt::Key, const char*> mnemonics = {{Qt::Key_S, "comboBox_modes"},
                                                       {Qt::Key_C, "comboBox_source"},
@@ -205,6 +209,11 @@ void TestPlugin::hasForm()
         }
         auto* channels = bench.find<QTableWidget>("tableWidget_channels");
         auto* cards = bench.find<QTableWidget>("tableWidget_synccards");
+        QStringList headers;
+        for (const auto* table : {cards, channels})
+            for (int i = 0; i < table->columnCount(); ++i)
+                headers.append(table->horizontalHeaderItem(i)->text());
+        QCOMPARE(headers.join('|'), "Model|Serial|Channel|Delay [us]|Active during idle|Max delay");
         QVERIFY(channels->maximumHeight() == 110 && channels->isColumnHidden(3) && channels->rowHeight(1) == 20);
         QVERIFY(cards->maximumHeight() == 100 && cards->columnWidth(0) == 165 && cards->rowHeight(0) == 28);
         QVERIFY(channels->columnWidth(0) == 110 && channels->columnWidth(1) == 110);
