@@ -36,8 +36,11 @@ void TestDialog::pollsEachSecondWhileOpen()
                  QByteArray("get synccard has_input_frequency,get synccard input_frequency"));
         QVERIFY2(polls.size() >= 2 * 2 && polls.size() <= 2 * 4, qPrintable(QString::number(polls.size())));
         bench.user().leave("Escape");
-        bench.channel.takeCommands();
     });
+    bench.channel.takeCommands();
+    QTest::qWait(1200);
+    bench.open([&] { bench.user().leave("OK"); });
+    QCOMPARE(bench.channel.takeCommands().first(), QByteArray("get config is_changeable"));
     QTest::qWait(1200);
     QCOMPARE(bench.channel.commands, {});
 }
@@ -45,7 +48,15 @@ void TestDialog::pollsEachSecondWhileOpen()
 void TestDialog::reopensWithFreshContents()
 {
     Bench bench;
-    bench.look();
+    const auto toggleAndAccept = [&] {
+        bench.user().clickCell(0, 2);
+        bench.user().leave("OK");
+    };
+    bench.open(toggleAndAccept);
+    QVERIFY(bench.channel.takeCommands().contains("set synccard output_during_idle d01 ch02 no"));
+    bench.channel.script("synccard number_of_channels d01=1");
+    bench.open(toggleAndAccept);
+    QVERIFY(!bench.channel.takeCommands().contains("set synccard output_during_idle d01 ch02 no"));
     bench.channel.script("synccard number_of_synccards=1;synccard number_of_modes=1;synccard number_of_channels d01=1;"
                          "synccard internal_frequency d01=77");
     bench.open([&] {
