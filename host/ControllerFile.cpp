@@ -96,6 +96,11 @@ public:
             fail(prefix + key, reason);
     }
 
+    void demandWord(const QString& text, const QString& key)
+    {
+        demand(!text.isEmpty() && !text.contains(' '), key, "one word is expected");
+    }
+
 private:
     QJsonValue take(const QString& key)
     {
@@ -146,7 +151,8 @@ private:
         Members members(value, place, error);
         members.read("id", &mode.id);
         members.read("description", &mode.description);
-        members.demand(!mode.id.isEmpty() && !mode.id.contains(' '), "id", "one word is expected");
+        members.demandWord(mode.id, "id");
+        members.demand(mode.id != "none", "id", "\"none\" stands for direct settings");
         members.finish();
         return mode;
     }
@@ -179,12 +185,13 @@ private:
         card.sources = ControllerState::builtIn().cards.first().sources;
         Members members(value, place, error);
         members.read("model", &card.model);
+        members.demandWord(card.model, "model");
         members.read("serial", &card.serial);
         members.read("description", &card.description);
         members.read("sources", &card.sources, [this](const auto& v, const auto& p) { return readSource(v, p); });
         members.read("source", &card.source);
-        members.read("maxFrequency", &card.maxFrequency, 0.0, unlimited);
-        members.read("frequency", &card.frequency, 0.0, card.maxFrequency);
+        members.read("maxFrequency", &card.maxFrequency, minimumFrequency, unlimited);
+        members.read("frequency", &card.frequency, minimumFrequency, card.maxFrequency);
         const SourceState* source = card.findSource(card.source);
         members.demand(source, "source", "the card does not offer this source");
         members.read("divisor", &card.divisor, 1, source ? source->maxDivisor : 1);
@@ -230,7 +237,7 @@ bool readControllerFile(const QString& file, ControllerState* state, QString* er
         read = Reader(&reason).readState(
             document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array()), *state);
     if (!reason.isEmpty()) {
-        *error = file + ": " + reason;
+        *error = file + ": " + reason.simplified();
         return false;
     }
     *state = read;

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QVector>
 
+constexpr double minimumFrequency = 10.0; // Hz, of every card's internal source
+
 /** A sync source that a card offers, with what depends on it. */
 struct SourceState
 {

@@ -121,8 +121,6 @@ constexpr ProtocolGate frequencyLimit{1, 5};
 constexpr ProtocolGate configLock{1, 9};
 constexpr ProtocolGate outputs{1, 23};
 
-constexpr double minimumFrequency = 10.0;
-
 // clang-format off
 const Parameter parameters[] = {
     {"config is_changeable", "", configLock, [](const Access& a) { return flag(!a.state->locked); }, nullptr},

@@ -1,6 +1,7 @@
 #include "HostOptions.h"
 
 #include "ControllerFile.h"
+#include "ModuleLoader.h"
 
 #include <QCoreApplication>
 
@@ -21,6 +22,8 @@ HostOptions::HostOptions(const QString& description)
     parser.addOption({{"h", "help"}, "Shows this help."});
     parser.addOption({{"v", "version"}, "Shows the version."});
     parser.addOption({"controller", "Takes the simulated controller from <file> (JSON).", "file"});
+    parser.addOption({"protocol", "Lets the controller speak protocol <version>, such as 0.12.7 or 1.23.", "version"});
+    parser.addOption({"plugin", "Loads the module from <file>.", "file"});
 }
 
 bool HostOptions::parse(int argc, char* argv[])
@@ -51,11 +54,16 @@ bool HostOptions::readController()
 
 bool HostOptions::readProtocol()
 {
-    const QString text = parser.optionNames().contains("protocol") ? parser.value("protocol") : QString();
-    bool isVersion = text.isEmpty();
-    if (!text.isEmpty())
+    const QString text = parser.value("protocol");
+    bool isVersion = !parser.isSet("protocol");
+    if (!isVersion)
         state.protocol.fromString(text, &isVersion);
     return isVersion || end(fail("--protocol " + text + ": a version such as 1.23 or 1.23.0 is expected"));
+}
+
+QString HostOptions::pluginFile() const
+{
+    return parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
 }
 
 bool HostOptions::end(int exitStatus)

@@ -5,15 +5,15 @@
 #include <QCommandLineParser>
 
 /**
- * The command line of the host's programs: --help, --version and --controller, and what a program adds. Errors are
- * one line on standard error.
+ * The command line of the host's programs: --help, --version, --controller, --protocol and --plugin, and what a program
+ * adds. Errors are one line on standard error.
  */
 class HostOptions
 {
 public:
     explicit HostOptions(const QString& description);
 
-    /** Adds an option of one program; --protocol is understood here. */
+    /** Adds an option of one program. */
     void addOption(const QCommandLineOption& option) { parser.addOption(option); }
 
     /**
@@ -27,6 +27,9 @@ public:
 
     /** The built-in controller, or the one that --controller names, with the protocol that --protocol names. */
     const ControllerState& controllerState() const { return state; }
+
+    /** The module's plug-in: the one --plugin names, or the one beside the program. Needs a QCoreApplication. */
+    QString pluginFile() const;
 
     /** Says \a message on standard error and returns the exit status 2. */
     static int fail(const QString& message);

@@ -69,8 +69,8 @@ void TestPlugin::comparesVersions()
 void TestPlugin::parsesVersions()
 {
     const QMap<QString, QString> versions = {
-        {"1.23.4", "1.23.4"}, {"1.23", "1.23.0"}, {"0.13.-1", "0.13.-1"}, {"", ""}, {"1", ""}, {"1.2.3.4", ""},
-        {"1.x", ""},          {"1..2", ""}};
+        {"1.23.4", "1.23.4"}, {"1.23", "1.23.0"}, {"0.13.-1", "0.13.-1"}, {"", ""},     {"1", ""},   {"1.2.3.4", ""},
+        {"1.x", ""},          {"1. 2", ""},       {"+1.2", ""},           {"1.2 ", ""}, {"1.-", ""}, {"1..2", ""}};
     for (auto version = versions.begin(); version != versions.end(); ++version) {
         VersionInfo parsed(7, 8, 9);
         bool ok = version.value().isEmpty();

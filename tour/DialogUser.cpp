@@ -7,6 +7,7 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -31,7 +32,12 @@ DialogUser::Outcome DialogUser::openBy(const Steps& trigger, const Steps& steps)
         if (outcome != NotShown || QApplication::activeModalWidget() != target)
             return;
         outcome = Closed;
-        if (QTest::qWaitForWindowActive(target))
+        // A window counts as active while its parent is; the keyboard is the dialog's only when it has the focus.
+        const auto hasFocus = [this] {
+            return QApplication::activeWindow() == target && QApplication::focusWindow() == target->windowHandle();
+        };
+        target->activateWindow();
+        if (QTest::qWaitFor(hasFocus))
             steps();
         close();
     });

@@ -39,8 +39,8 @@ void roundAsShown(CardState* card)
 
 } // namespace
 
-Tour::Tour(const ControllerState& state, const QString& pictureFolder)
-    : initial(state), expected(state), pictureFolder(pictureFolder)
+Tour::Tour(const ControllerState& state, const QString& pluginFile, const QString& pictureFolder)
+    : initial(state), expected(state), pluginFile(pluginFile), pictureFolder(pictureFolder)
 {}
 
 bool Tour::run()
@@ -61,8 +61,13 @@ void Tour::raiseFrequency()
     if (host)
         takePicture(&host->window, "host");
     visit("Raise the internal frequency, OK", [this] {
-        demand(!initial.cards.isEmpty() && user->find<QWidget>("doubleSpinBox_frequency")->isEnabled(),
-               "the frequency cannot be edited: the controller is not on its internal source");
+        demand(!initial.cards.isEmpty(), "the tour needs a controller with a synccard");
+        demand(!initial.locked, "the tour needs a controller that is not locked");
+        const auto* frequency = user->find<QWidget>("doubleSpinBox_frequency");
+        demand(frequency->isVisible() && frequency->isEnabled(),
+               "the tour needs a controller on direct settings with the internal source");
+        if (hasFailed())
+            return;
         waitForPoll();
         takePicture(user->dialog(), "direct-settings");
         user->focus(Qt::Key_F);
@@ -178,7 +183,7 @@ void Tour::meetControllerWithoutSynccard()
 void Tour::startHost(const ControllerState& state)
 {
     user.reset();
-    host = std::make_unique<DevelopmentHost>(state, ModuleLoader::defaultFile());
+    host = std::make_unique<DevelopmentHost>(state, pluginFile);
     expected = state;
     if (!host->start())
         return demand(false, host->errorString());

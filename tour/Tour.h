@@ -17,7 +17,7 @@ class Tour
 {
 public:
     /** Pictures go into \a pictureFolder, if it is not empty. */
-    Tour(const ControllerState& state, const QString& pictureFolder);
+    Tour(const ControllerState& state, const QString& pluginFile, const QString& pictureFolder);
 
     /** The whole tour; stops at the first thing amiss, which problem() names. */
     bool run();
@@ -41,6 +41,7 @@ private:
 
     ControllerState initial;
     ControllerState expected;
+    QString pluginFile;
     QString pictureFolder;
     QString firstProblem;
     std::unique_ptr<DevelopmentHost> host;

@@ -34,7 +34,7 @@ int main(int argc, char* argv[])
     qInstallMessageHandler(noteWarning);
     int programNameOnly = 1;
     const QApplication application(programNameOnly, argv);
-    Tour tour(options.controllerState(), pictures);
+    Tour tour(options.controllerState(), options.pluginFile(), pictures);
     if (!tour.run()) {
         static_cast<void>(std::fflush(stdout));
         HostOptions::fail(tour.problem());

@@ -4,7 +4,8 @@
 #include <QtGlobal>
 
 /**
- * The host's command channel to the tracking controller.
+ * The host's command channel to the tracking controller. These are the operations that modules call; a real host's own
+ * header has further ones between them, so that a plug-in must be built against the headers of the host that loads it.
  *
  * The host owns it, hands a pointer to every module ("CommandManager") and keeps it alive until
  * ModuleInterface::exit_module() has returned. Modules call it on the GUI thread only; every call blocks until the
@@ -44,7 +45,8 @@ public:
 
     /**
      * Hands an error message to the host; \a message is a finished Latin-1 text, not a format. The meaning of
-     * message class, originating system and display flag belongs to the host.
+     * message class, originating system and display flag belongs to the host. It returns without running an event
+     * loop: a box inside it would let the next poll in, and must not end the module.
      */
     virtual void reportError(const char* category, const char* systemTag, int flag, const char* message) = 0;
 };

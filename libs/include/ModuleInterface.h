@@ -54,7 +54,7 @@ public:
     /** The module's version, such as "v1.2.7". */
     virtual QString get_module_version() const = 0;
 
-    /** The module's menu entries, built at the first call; the records stay the module's. */
+    /** The module's menu entries, built at the first call and again after exit_module(); they stay the module's. */
     virtual QList<_GuiElement*> get_gui_elements() = 0;
 
     /**

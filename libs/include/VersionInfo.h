@@ -23,7 +23,7 @@ public:
     }
 
     /**
-     * Reads "1.23.0" or "1.23", a missing patch being 0.
+     * Reads "1.23.0" or "1.23", a missing patch being 0; no blanks, no plus sign.
      * \a ok, which may be null, tells whether \a text was such a version; if not, the version stays as it was.
      */
     void fromString(const QString& text, bool* ok = nullptr)
@@ -31,8 +31,14 @@ public:
         const QStringList fields = text.split(QLatin1Char('.'));
         int numbers[3] = {0, 0, 0};
         bool isVersion = fields.size() == 2 || fields.size() == 3;
-        for (int i = 0; isVersion && i < fields.size(); ++i)
-            numbers[i] = fields.at(i).toInt(&isVersion);
+        for (int i = 0; isVersion && i < fields.size(); ++i) {
+            const QString& field = fields.at(i);
+            isVersion = field.startsWith(QLatin1Char('-')) || (!field.isEmpty() && field.at(0).isDigit());
+            if (isVersion && field.at(field.size() - 1).isDigit())
+                numbers[i] = field.toInt(&isVersion);
+            else
+                isVersion = false;
+        }
         if (isVersion)
             setVer(numbers[0], numbers[1], numbers[2]);
         if (ok)

@@ -81,7 +81,7 @@ private:
     void update_spinBox_externalDivisor();
     void show_internal_frequency();
     void show_external_divisor(const QString& source);
-    /** Protocols 1.9 and 1.10, whose controllers do not take a divisor. */
+    /** Protocols 1.9 and 1.10, on which OK writes no divisor. */
     bool isProtocolWithoutDivisor() const;
 
     // Sync output and channels: SynccardDialog_channels.cpp

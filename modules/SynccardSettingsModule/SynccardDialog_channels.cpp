@@ -13,6 +13,12 @@ constexpr int rowHeight = 20;
 constexpr double defaultMaximumDelayMilliseconds = 300.0;
 constexpr double microsecondsPerMillisecond = 1000.0;
 
+/** Whether a read left a delay that is finite in microseconds, too. */
+bool isDelayRead(int result, const double& milliseconds)
+{
+    return isRead(result, milliseconds) && qIsFinite(milliseconds * microsecondsPerMillisecond);
+}
+
 QString microseconds(double milliseconds, int decimals)
 {
     return QString::number(milliseconds * microsecondsPerMillisecond, 'f', decimals);
@@ -88,7 +94,7 @@ void SynccardDialog::update_tableWidget_channels()
         channels = 0;
     }
     double maximumDelay = defaultMaximumDelayMilliseconds;
-    if (!isRead(cm->getParameterDouble(&maximumDelay, "synccard max_output_delay d01"), maximumDelay)) {
+    if (!isDelayRead(cm->getParameterDouble(&maximumDelay, "synccard max_output_delay d01"), maximumDelay)) {
         reportError(cm, QStringLiteral("Error: Unable to get max output delay from synccard 1"));
         maximumDelay = defaultMaximumDelayMilliseconds;
     }
@@ -127,7 +133,7 @@ void SynccardDialog::show_channel(int row, const QString& maximumDelay, Qt::Item
 double SynccardDialog::read_delay(int channel)
 {
     double delay = 0.0;
-    if (isRead(cm->getParameterDouble(&delay, "synccard output_delay d01 ch%2.2d", channel), delay))
+    if (isDelayRead(cm->getParameterDouble(&delay, "synccard output_delay d01 ch%2.2d", channel), delay))
         return delay;
     reportError(cm, QStringLiteral("Error: Unable to get output delay from synccard 1 channel ch0%2").arg(channel));
     return 0.0;

@@ -2,6 +2,7 @@
 
 #include "SynccardDialog.h"
 
+#include <QAction>
 #include <QKeySequence>
 
 namespace {
@@ -11,7 +12,12 @@ constexpr int menuEntryOrderNumber = 130;
 
 } // namespace
 
-SynccardSettingsModule::SynccardSettingsModule() = default;
+SynccardSettingsModule::SynccardSettingsModule()
+{
+    // A host's own record need not begin with null pointers.
+    gui_synccardsettings.content = nullptr;
+    gui_synccardsettings.menu_entry = nullptr;
+}
 
 SynccardSettingsModule::~SynccardSettingsModule()
 {

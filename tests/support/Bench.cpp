@@ -98,6 +98,7 @@ Bench::Bench(const QByteArray& protocol, const QByteArray& script, const QString
     element = loader.module()->get_gui_elements().first();
     QObject::connect(&boxPoller, &QTimer::timeout, &boxPoller, [this] { closeBox(); });
     boxPoller.start(pollMilliseconds);
+    parent->show();
 }
 
 Bench::~Bench()
@@ -127,6 +128,9 @@ int Bench::open(const DialogUser::Steps& steps) const
 
 void Bench::openBy(const DialogUser::Steps& trigger, const DialogUser::Steps& steps) const
 {
+    // As in a host: the focus goes from its window to the dialog.
+    parent->activateWindow();
+    QVERIFY(QTest::qWaitFor([this] { return parent->isActiveWindow(); }));
     QVERIFY2(user().openBy(trigger, steps) != DialogUser::LeftOpen, "the dialog was left open");
 }
 
