@@ -17,7 +17,6 @@ private slots:
     void refusesASecondOpening();
     void opensWithoutHostObjects();
     void editsDelays();
-    void reportsTheTenthChannel();
     void survivesTheParent();
 };
 
@@ -169,22 +168,6 @@ void TestDialog::editsDelays()
     });
     QVERIFY(bench.channel.commands.contains("set synccard output_delay d01 ch01 1.901000"));
     QVERIFY(bench.channel.commands.contains("set synccard output_delay d01 ch02 0.000000"));
-}
-
-/** Three digits in the message, two in the command. */
-void TestDialog::reportsTheTenthChannel()
-{
-    Bench bench("1.22", "synccard number_of_channels d01=10;synccard output_delay d01 ch10=1.23456789");
-    bench.open([&] {
-        bench.channel.takeReports();
-        bench.channel.script("set synccard output_delay d01 ch10 1.235000=!;"
-                             "set synccard output_during_idle d01 ch10 no=!");
-        bench.user().clickCell(1, 2);
-        bench.user().leave("OK");
-    });
-    QCOMPARE(bench.channel.reports.join('|'),
-             QByteArray("Error: Unable to set Synccard d01 channel ch010 delay 1.235|"
-                        "Error: Unable to set Synccard d01 channel ch010 active during idle no"));
 }
 
 /** The parent may die while the dialog is open, and while the warning box is: then nothing more is sent. */
