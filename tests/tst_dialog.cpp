@@ -40,7 +40,7 @@ void TestDialog::pollsEachSecondWhileOpen()
     bench.channel.takeCommands();
     QTest::qWait(1200);
     bench.open([&] { bench.user().leave("OK"); });
-    QCOMPARE(bench.channel.takeCommands().first(), QByteArray("get config is_changeable"));
+    QCOMPARE(bench.channel.takeCommands().constFirst(), QByteArray("get config is_changeable"));
     QTest::qWait(1200);
     QCOMPARE(bench.channel.commands, {});
 }

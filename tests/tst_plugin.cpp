@@ -45,10 +45,11 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-template <typename Widget>
-const QList<Widget*> all(const Bench& bench)
+template <typename Widget, typename Visit>
+void forEach(const Bench& bench, Visit visit)
 {
-    return bench.dialog()->findChildren<Widget*>();
+    const QList<Widget*> widgets = bench.dialog()->findChildren<Widget*>();
+    std::for_each(widgets.begin(), widgets.end(), visit);
 }
 
 } // namespace
@@ -243,16 +244,15 @@ void TestPlugin::translatesEveryText()
                          bench.loader.module()->get_module_name(),
                          bench.dialog()->windowTitle()};
     bench.open([&] {
-        for (const auto* widget : all<QWidget>(bench))
-            texts.append(widget->whatsThis());
-        for (const auto* label : all<QLabel>(bench))
-            texts.append(label->text());
+        forEach<QWidget>(bench, [&](const QWidget* widget) { texts.append(widget->whatsThis()); });
+        forEach<QLabel>(bench, [&](const QLabel* label) { texts.append(label->text()); });
         for (const char* name : {"comboBox_source", "comboBox_output"})
             for (int i = 0; i < bench.find<QComboBox>(name)->count(); ++i)
                 texts.append(bench.find<QComboBox>(name)->itemText(i));
-        for (const auto* table : all<QTableWidget>(bench))
+        forEach<QTableWidget>(bench, [&](const QTableWidget* table) {
             for (int i = 0; i < table->columnCount(); ++i)
                 texts.append(table->horizontalHeaderItem(i)->text());
+        });
         for (const QString& text : qAsConst(texts))
             QVERIFY2(text.isEmpty() || text.startsWith('#'), qPrintable(text));
         QCOMPARE(bench.see("comboBox_modes"), "Fast mode=fast|Slow mode=slow|*#direct settings=direct settings");
