@@ -80,13 +80,22 @@ void TestDialog::reopensWithFreshContents()
     QCOMPARE(bench.channel.commands, {});
 }
 
-/** The one card of a legacy controller stays one at the next opening. */
+/** One card and no change at the next opening; after an upgrade the sync-input labels stay hidden. */
 void TestDialog::reopensLegacy()
 {
     Bench bench("0.8");
-    bench.look();
-    bench.look();
+    bench.open([&] {
+        bench.user().choose("comboBox_modes", "fast");
+        bench.user().leave("Cancel");
+    });
+    bench.open([&] { bench.user().leave("OK"); });
+    QVERIFY(!bench.channel.commands.join().contains("set "));
     QCOMPARE(bench.see("tableWidget_synccards"), "Old card,4711");
+    bench.versions = BackendVersions({1, 0, 0}, {1, 23, 0}, {1, 0, 0}, "FERNBANK");
+    bench.channel.script("synccard number_of_channels d01=1200");
+    bench.look();
+    QVERIFY(bench.see("label_syncInput").endsWith(" hidden"));
+    QCOMPARE(bench.find<QTableWidget>("tableWidget_channels")->rowCount(), 999);
 }
 
 /** The lock icon appears while locked; a later, unlocked opening gives everything back. */

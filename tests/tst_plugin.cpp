@@ -105,25 +105,23 @@ void TestPlugin::keepsRecords()
 
 void TestPlugin::hasIdentity()
 {
-    {
-        Bench bench;
-        QPluginLoader loader(bench.loader.fileName());
-        const QJsonObject data = loader.metaData();
-        QCOMPARE(data.value("IID").toString(), "org.zorvan.Zorvan2.SnyccardSettingsModule");
-        QCOMPARE(data.value("className").toString(), "SynccardSettingsModule");
-        QCOMPARE(data.value("debug").toBool(true), false);
-        QCOMPARE(data.value("version").toInt(), 0x050F00);
-        QObject* object = loader.instance();
-        QVERIFY(object && object == loader.instance());
-        QCOMPARE(object->qt_metacast("ModuleInterface"), object->qt_metacast("org.zorvan.zorvan2.gui.Module/0.2.0"));
-        QCOMPARE(static_cast<ModuleInterface*>(object->qt_metacast("ModuleInterface")), bench.loader.module());
-        QCOMPARE(bench.loader.module()->get_module_name(), "GUI Synccard Settings");
-        QCOMPARE(bench.loader.module()->get_module_version(), "v1.2.7");
-        QCOMPARE(QFile(":/images/lock.png").size(), 1241);
-        QCOMPARE(QImage(":/images/lock.png").size(), QSize(48, 48));
-        QCOMPARE(QFile(":/images/synccard.png").size(), 22652);
-        QCOMPARE(QImage(":/images/synccard.png").size(), QSize(103, 104));
-    }
+    Bench bench;
+    QPluginLoader loader(bench.loader.fileName());
+    const QJsonObject data = loader.metaData();
+    QCOMPARE(data.value("IID").toString(), "org.zorvan.Zorvan2.SnyccardSettingsModule");
+    QCOMPARE(data.value("className").toString(), "SynccardSettingsModule");
+    QCOMPARE(data.value("debug").toBool(true), false);
+    QCOMPARE(data.value("version").toInt(), 0x050F00);
+    QObject* object = loader.instance();
+    QVERIFY(object && object == loader.instance());
+    QCOMPARE(object->qt_metacast("ModuleInterface"), object->qt_metacast("org.zorvan.zorvan2.gui.Module/0.2.0"));
+    QCOMPARE(static_cast<ModuleInterface*>(object->qt_metacast("ModuleInterface")), bench.loader.module());
+    QCOMPARE(bench.loader.module()->get_module_name(), "GUI Synccard Settings");
+    QCOMPARE(bench.loader.module()->get_module_version(), "v1.2.7");
+    QCOMPARE(QFile(":/images/lock.png").size(), 1241);
+    QCOMPARE(QImage(":/images/lock.png").size(), QSize(48, 48));
+    QCOMPARE(QFile(":/images/synccard.png").size(), 22652);
+    QCOMPARE(QImage(":/images/synccard.png").size(), QSize(103, 104));
 }
 
 void TestPlugin::offersOneEntry()
@@ -210,11 +208,6 @@ void TestPlugin::hasForm()
         }
         auto* channels = bench.find<QTableWidget>("tableWidget_channels");
         auto* cards = bench.find<QTableWidget>("tableWidget_synccards");
-        QStringList headers;
-        for (const auto* table : {cards, channels})
-            for (int i = 0; i < table->columnCount(); ++i)
-                headers.append(table->horizontalHeaderItem(i)->text());
-        QCOMPARE(headers.join('|'), "Model|Serial|Channel|Delay [us]|Active during idle|Max delay");
         QVERIFY(channels->maximumHeight() == 110 && channels->isColumnHidden(3) && channels->rowHeight(1) == 20);
         QVERIFY(cards->maximumHeight() == 100 && cards->columnWidth(0) == 165 && cards->rowHeight(0) == 28);
         QVERIFY(channels->columnWidth(0) == 110 && channels->columnWidth(1) == 110);
@@ -253,6 +246,8 @@ void TestPlugin::translatesEveryText()
             for (int i = 0; i < table->columnCount(); ++i)
                 texts.append(table->horizontalHeaderItem(i)->text());
         });
+        const QString all = texts.join('|');
+        QVERIFY(all.contains("#Model|#Serial") && all.contains("#Channel|#Delay [us]|#Active during idle|#Max delay"));
         for (const QString& text : qAsConst(texts))
             QVERIFY2(text.isEmpty() || text.startsWith('#'), qPrintable(text));
         QCOMPARE(bench.see("comboBox_modes"), "Fast mode=fast|Slow mode=slow|*#direct settings=direct settings");
