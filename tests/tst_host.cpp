@@ -1,6 +1,8 @@
 #include "ControllerFile.h"
 #include "DevelopmentHost.h"
+#include "StateDifference.h"
 
+#include <QJsonArray>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -78,6 +80,7 @@ void TestHost::movesWithTheSource()
     QCOMPARE(QString("%1 %2 %3").arg(card.source).arg(card.divisor).arg(card.output), "video 10 none");
     const ChannelState& channel = host.controller.state().cards.at(1).channels.at(3);
     QVERIFY(channel.delay == 1.5 && channel.activeDuringIdle);
+    QCOMPARE(firstDifference(QJsonArray{1, 2}, QJsonArray{1, 3}), "[1]: 2 expected, 3 found");
 }
 
 void TestHost::formatsWithoutLocale()
