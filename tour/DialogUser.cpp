@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int pollMilliseconds = 5;
+constexpr int pollMilliseconds = 1;
 constexpr int deadlineMilliseconds = 10000;
 constexpr int besideBorder = 10;
 
@@ -37,6 +37,7 @@ DialogUser::Outcome DialogUser::openBy(const Steps& trigger, const Steps& steps)
             return QApplication::activeWindow() == target && QApplication::focusWindow() == target->windowHandle();
         };
         target->activateWindow();
+        QApplication::processEvents(); // or each opening would wait for the next look at the focus
         if (QTest::qWaitFor(hasFocus))
             steps();
         close();
@@ -69,7 +70,10 @@ bool DialogUser::choose(const char* name, const QString& data) const
 void DialogUser::clickCell(int row, int column) const
 {
     const auto* table = find<QTableWidget>("tableWidget_channels");
-    const QRect cell = table->visualItemRect(table->item(row, column));
+    const QTableWidgetItem* item = table->item(row, column);
+    if (!item)
+        return;
+    const QRect cell = table->visualItemRect(item);
     const QPoint checkBox(cell.left() + besideBorder, cell.center().y());
     QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, checkBox);
 }
@@ -80,6 +84,8 @@ QDoubleSpinBox* DialogUser::editDelay(int row) const
     const auto editor = [table] { return table->viewport()->findChild<QDoubleSpinBox*>(); };
     if (!QTest::qWaitFor([editor] { return !editor(); }))
         return nullptr;
+    if (!table->item(row, 1))
+        return nullptr;
     clickCell(row, 1);
     const QPoint cell = table->visualItemRect(table->item(row, 1)).center();
     QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, cell);
@@ -88,6 +94,8 @@ QDoubleSpinBox* DialogUser::editDelay(int row) const
 
 void DialogUser::type(QWidget* editor, const QString& text, Qt::Key key)
 {
+    if (!editor)
+        return;
     QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(editor, text);
     QTest::keyClick(editor, key);

@@ -39,11 +39,11 @@ public:
     void focus(Qt::Key key) const;
     /** Picks the item with the user data \a data by keys; false when there is none. */
     bool choose(const char* name, const QString& data) const;
-    /** Clicks into a channel cell, on the check box if it has one. */
+    /** Clicks into a channel cell, on the check box if it has one; nowhere when there is no such cell. */
     void clickCell(int row, int column) const;
     /** Opens the delay editor of \a row by a double click, once an earlier one is gone; null when it does not open. */
     QDoubleSpinBox* editDelay(int row) const;
-    /** Replaces the editor's text by \a text and leaves it by \a key. */
+    /** Replaces the editor's text by \a text and leaves it by \a key; does nothing without an editor. */
     static void type(QWidget* editor, const QString& text, Qt::Key key = Qt::Key_Tab);
     /** Leaves by "OK", "Cancel", "Escape" or "close", the window's close button. */
     void leave(const QByteArray& way) const;

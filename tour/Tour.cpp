@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "DialogText.h"
 #include "StateDifference.h"
 
 #include <QAbstractButton>
@@ -69,7 +70,7 @@ void Tour::raiseFrequency()
         if (hasFailed())
             return;
         waitForPoll();
-        takePicture(user->dialog(), "direct-settings");
+        look("direct-settings");
         user->focus(Qt::Key_F);
         user->press("doubleSpinBox_frequency", Qt::Key_Up);
         if (hasFailed())
@@ -88,7 +89,7 @@ void Tour::takeSourceBack()
         const auto* sources = user->find<QComboBox>("comboBox_source");
         user->focus(Qt::Key_C);
         user->press("comboBox_source", Qt::Key_Down);
-        takePicture(user->dialog(), "external-source");
+        look("external-source");
         // The source comes back; what its change took along, divisor and output, does not.
         CardState& card = expected.cards.first();
         const SourceState* visited = card.findSource(sources->currentData().toString());
@@ -111,7 +112,7 @@ void Tour::editChannels()
         demand(editor, "the delay editor does not open");
         if (hasFailed())
             return;
-        takePicture(user->dialog(), "delay-editor");
+        look("delay-editor");
         const int delay = qMin(1234, static_cast<int>(editor->maximum()));
         DialogUser::type(editor, QString::number(delay), Qt::Key_Return);
         const int last = card.channels.size() - 1;
@@ -121,7 +122,7 @@ void Tour::editChannels()
         card.channels.first().delay = delay / 1000.0;
         if (!isIdleFixed)
             card.channels.last().activeDuringIdle = !card.channels.last().activeDuringIdle;
-        takePicture(user->dialog(), "channels");
+        look("channels");
         user->leave("OK");
     });
 }
@@ -134,7 +135,7 @@ void Tour::choosePredefinedMode()
             return;
         user->focus(Qt::Key_S);
         demand(user->choose("comboBox_modes", initial.modes.first().id), "the mode cannot be chosen");
-        takePicture(user->dialog(), "predefined-mode");
+        look("predefined-mode");
         expected.activeMode = initial.modes.first().id;
         user->leave("OK");
     });
@@ -147,7 +148,7 @@ void Tour::meetLegacyController()
     legacy.activeMode = legacy.modes.last().id;
     startHost(legacy);
     visit("A legacy controller: choose a mode, OK", [this] {
-        takePicture(user->dialog(), "legacy");
+        look("legacy");
         demand(user->choose("comboBox_modes", initial.modes.first().id), "the mode cannot be chosen");
         expected.activeMode = initial.modes.first().id;
         user->leave("OK");
@@ -161,7 +162,7 @@ void Tour::meetLockedController()
     startHost(locked);
     visit("A locked controller: look, Escape", [this] {
         waitForPoll();
-        takePicture(user->dialog(), "locked");
+        look("locked");
         user->press("comboBox_modes", Qt::Key_Up);
         demand(!user->find<QAbstractButton>("pushButton_Ok")->isEnabled(), "OK is enabled");
         user->leave("Escape");
@@ -174,7 +175,7 @@ void Tour::meetControllerWithoutSynccard()
     bare.cards.clear();
     startHost(bare);
     visit("A controller without synccard: look, close", [this] {
-        takePicture(user->dialog(), "no-synccard");
+        look("no-synccard");
         demand(!user->find<QLabel>("label_error")->isHidden(), "the notice is missing");
         user->leave("close");
     });
@@ -216,6 +217,17 @@ void Tour::waitForPoll()
     const auto* input = user->find<QLabel>("label_inputSource");
     demand(initial.input.isEmpty() || QTest::qWaitFor([input] { return !input->text().isEmpty(); }),
            "the sync input is not polled");
+}
+
+/** Prints what the dialog shows, and takes its picture. */
+void Tour::look(const QString& name)
+{
+    const QStringList lines = textOfDialog(user->dialog());
+    for (const QString& line : lines) {
+        if (!line.endsWith(" hidden"))
+            print("  " + line);
+    }
+    takePicture(user->dialog(), name);
 }
 
 void Tour::takePicture(QWidget* widget, const QString& name)

@@ -10,8 +10,8 @@
 
 /**
  * Walks through the dialog without a person: changes settings, takes changes back, meets a legacy, a locked and a
- * card-less controller. Prints every command with answer and result, and compares the controller after each visit
- * with what the visit must leave. Needs a QApplication.
+ * card-less controller. Prints every command with answer and result, and what the dialog shows, and compares the
+ * controller after each visit with what the visit must leave. Needs a QApplication.
  */
 class Tour
 {
@@ -35,6 +35,7 @@ private:
     void startHost(const ControllerState& state);
     void visit(const QString& title, const DialogUser::Steps& steps);
     void waitForPoll();
+    void look(const QString& name);
     void takePicture(QWidget* widget, const QString& name);
     void demand(bool condition, const QString& what);
     bool hasFailed() const { return !firstProblem.isEmpty(); }

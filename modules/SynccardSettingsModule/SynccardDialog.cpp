@@ -25,6 +25,8 @@ SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
     timer = new QTimer;
     timer->setInterval(pollIntervalMilliseconds);
     connect(timer, &QTimer::timeout, this, &SynccardDialog::poll_input_frequency);
+    // A host may end the dialog by done() as well, without accept() or reject().
+    connect(this, &QDialog::finished, timer, &QTimer::stop);
     setup_tableWidget_synccards();
     setup_tableWidget_channels();
     showDetails(false);

@@ -1,0 +1,80 @@
+#include "DialogText.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTableWidget>
+
+namespace {
+
+QString cellText(const QTableWidgetItem* item)
+{
+    if (!item)
+        return "(none)";
+    const QVariant data = item->data(Qt::UserRole);
+    const QVariant check = item->data(Qt::CheckStateRole);
+    return item->text() + (data.isValid() ? '<' + data.toString() + '>' : QString())
+           + (check.isValid() ? (check.toInt() == Qt::Checked ? "x" : "o") : "")
+           + (item->flags() & Qt::ItemIsEnabled ? "" : "~");
+}
+
+QString rowsText(const QTableWidget* table)
+{
+    QStringList rows;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < table->columnCount(); ++column)
+            cells.append(cellText(table->item(row, column)));
+        rows.append(cells.join(','));
+    }
+    return rows.join('|');
+}
+
+QString itemsText(const QComboBox* box)
+{
+    QStringList items;
+    for (int i = 0; i < box->count(); ++i)
+        items.append((i == box->currentIndex() ? "*" : "") + box->itemText(i) + '=' + box->itemData(i).toString());
+    return items.join('|');
+}
+
+template <typename SpinBox>
+QString rangeText(const SpinBox* box)
+{
+    return QString("%1..%2:%3").arg(box->minimum()).arg(box->maximum()).arg(box->value());
+}
+
+QString contentText(const QWidget* widget)
+{
+    if (const auto* box = qobject_cast<const QComboBox*>(widget))
+        return itemsText(box);
+    if (const auto* frequency = qobject_cast<const QDoubleSpinBox*>(widget))
+        return rangeText(frequency);
+    if (const auto* divisor = qobject_cast<const QSpinBox*>(widget))
+        return rangeText(divisor);
+    if (const auto* table = qobject_cast<const QTableWidget*>(widget))
+        return rowsText(table);
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    return label ? label->text() : QString();
+}
+
+} // namespace
+
+QString textOfWidget(const QWidget* widget)
+{
+    if (!widget)
+        return "no such widget";
+    return contentText(widget) + (widget->isEnabled() ? "" : " off") + (widget->isHidden() ? " hidden" : "");
+}
+
+QStringList textOfDialog(const QDialog* dialog)
+{
+    QStringList lines;
+    const QRegularExpression formName("^(comboBox|doubleSpinBox|spinBox|tableWidget|label|frame|pushButton)_");
+    const QList<QWidget*> widgets = dialog->findChildren<QWidget*>(formName);
+    for (const QWidget* widget : widgets)
+        lines.append(widget->objectName() + ": " + textOfWidget(widget));
+    return lines;
+}
