@@ -9,7 +9,6 @@
 #include <QImage>
 #include <QJsonObject>
 #include <QLabel>
-#include <QMetaMethod>
 #include <QTableWidget>
 #include <QTranslator>
 
@@ -57,13 +56,10 @@ void forEach(const Bench& bench, Visit visit)
 void TestPlugin::comparesVersions()
 {
     const QVector<VersionInfo> ascending = {{-1, 5, 5}, {0, 8, -2}, {0, 8, -1}, {0, 8, 0}, {0, 13, -1}, {1, 0, 0}};
-    for (int i = 0; i < ascending.size(); ++i) {
-        for (int k = 0; k < ascending.size(); ++k) {
-            const VersionInfo& a = ascending.at(i);
-            const VersionInfo& b = ascending.at(k);
-            QVERIFY((a == b) == (i == k) && (a != b) == (i != k) && (a > b) == (i > k) && (a >= b) == (i >= k)
-                    && (a < b) == (i < k) && (a <= b) == (i <= k));
-        }
+    for (const VersionInfo& a : ascending) {
+        for (const VersionInfo& b : ascending)
+            QVERIFY((a == b) == (&a == &b) && (a != b) == (&a != &b) && (a > b) == (&a > &b) && (a >= b) == (&a >= &b)
+                    && (a < b) == (&a < &b) && (a <= b) == (&a <= &b));
     }
 }
 
@@ -93,12 +89,6 @@ void TestPlugin::keepsRecords()
             && first->frequency() == 60.0 && first->externalDivisor() == 1 && first->channelsCount() == 0);
     first->addChannel(new Channel);
     QVERIFY(first->channel(0) && !first->channel(1) && !first->channel(-1));
-    const QMap<QString, double> delays = {{"1500", 1.5}, {"2.5", 0.0025}, {"abc", 0.0}, {"1,5", 0.0}, {"", 0.0}};
-    for (auto delay = delays.begin(); delay != delays.end(); ++delay) {
-        first->channel(0)->setDelay(9.0);
-        first->channel(0)->setDelay(delay.key());
-        QCOMPARE(first->channel(0)->delay(), delay.value());
-    }
     list.clear();
     QCOMPARE(list.size(), 0);
 }
@@ -170,11 +160,19 @@ void TestPlugin::takesParameters()
 /** Unloading takes away every widget and resource; the plug-in can be loaded again. */
 void TestPlugin::leavesNothing()
 {
+    QString file;
     for (int round = 0; round < 2; ++round) {
         {
             Bench bench;
             bench.look();
+            file = bench.loader.fileName();
         }
+        QPluginLoader forgetful(file);
+        forgetful.setLoadHints({});
+        auto* module = qobject_cast<ModuleInterface*>(forgetful.instance());
+        QVERIFY(!module->get_gui_elements().isEmpty());
+        delete module; // without exit_module()
+        QVERIFY(forgetful.unload());
         QVERIFY(QApplication::allWidgets().isEmpty());
         QVERIFY(!QFile::exists(":/images/lock.png"));
     }
@@ -183,15 +181,6 @@ void TestPlugin::leavesNothing()
 void TestPlugin::hasForm()
 {
     Bench bench;
-    const QMetaObject* type = bench.dialog()->metaObject();
-    QByteArrayList slotNames;
-    for (int i = type->methodOffset(); i < type->methodCount(); ++i)
-        slotNames.append(type->method(i).methodSignature());
-    QCOMPARE(slotNames.join(' '),
-             QByteArray("update_and_exec() on_comboBox_output_currentIndexChanged(int) "
-                        "on_tableWidget_channels_cellChanged(int,int) on_comboBox_modes_currentIndexChanged(QString) "
-                        "on_comboBox_source_currentIndexChanged(int) on_doubleSpinBox_frequency_valueChanged(double) "
-                        "on_spinBox_externalDivisor_valueChanged(int) accept() reject() poll_input_frequency()"));
     QCOMPARE(bench.dialog()->objectName(), "synccarddialog");
     for (const char* name : {"label_inputSource", "label_inputFrequency"})
         QCOMPARE(bench.find<QLabel>(name)->textFormat(), Qt::PlainText);

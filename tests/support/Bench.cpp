@@ -1,82 +1,17 @@
 #include "Bench.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTableWidget>
 
 namespace {
 
-constexpr int pollMilliseconds = 5;
+constexpr int pollMilliseconds = 1;
 
 void warn(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
 {
     if (type != QtDebugMsg && type != QtInfoMsg && message != "This plugin does not support propagateSizeHints()")
         QTest::qFail(qPrintable("Qt says: " + message), __FILE__, __LINE__);
-}
-
-VersionInfo version(const QByteArray& text)
-{
-    VersionInfo result(0, 0, 0);
-    bool isVersion = false;
-    result.fromString(text, &isVersion);
-    if (!isVersion)
-        qFatal("no version: %s", text.constData());
-    return result;
-}
-
-QString cellText(const QTableWidgetItem* item)
-{
-    if (!item)
-        return "(none)";
-    const QVariant data = item->data(Qt::UserRole);
-    const QVariant check = item->data(Qt::CheckStateRole);
-    return item->text() + (data.isValid() ? '<' + data.toString() + '>' : QString())
-           + (check.isValid() ? (check.toInt() == Qt::Checked ? "x" : "o") : "")
-           + (item->flags() & Qt::ItemIsEnabled ? "" : "~");
-}
-
-QString rowsText(const QTableWidget* table)
-{
-    QStringList rows;
-    for (int row = 0; row < table->rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < table->columnCount(); ++column)
-            cells.append(cellText(table->item(row, column)));
-        rows.append(cells.join(','));
-    }
-    return rows.join('|');
-}
-
-QString itemsText(const QComboBox* box)
-{
-    QStringList items;
-    for (int i = 0; i < box->count(); ++i)
-        items.append((i == box->currentIndex() ? "*" : "") + box->itemText(i) + '=' + box->itemData(i).toString());
-    return items.join('|');
-}
-
-template <typename SpinBox>
-QString rangeText(const SpinBox* box)
-{
-    return QString("%1..%2:%3").arg(box->minimum()).arg(box->maximum()).arg(box->value());
-}
-
-QString contentText(QWidget* widget)
-{
-    if (const auto* box = qobject_cast<QComboBox*>(widget))
-        return itemsText(box);
-    if (const auto* frequency = qobject_cast<QDoubleSpinBox*>(widget))
-        return rangeText(frequency);
-    if (const auto* divisor = qobject_cast<QSpinBox*>(widget))
-        return rangeText(divisor);
-    if (const auto* table = qobject_cast<QTableWidget*>(widget))
-        return rowsText(table);
-    const auto* label = qobject_cast<QLabel*>(widget);
-    return label ? label->text() : QString();
 }
 
 } // namespace
@@ -86,9 +21,18 @@ void failOnWarnings()
     qInstallMessageHandler(warn);
 }
 
-Bench::Bench(const QByteArray& protocol, const QByteArray& script, const QString& model)
-    : versions(VersionInfo(1, 0, 0), version(protocol), VersionInfo(1, 0, 0), model), parent(new QWidget),
-      loader(PLUGIN_FILE)
+BackendVersions backend(const QString& text)
+{
+    VersionInfo protocol(0, 0, 0);
+    bool isVersion = false;
+    protocol.fromString(text.section(' ', 0, 0), &isVersion);
+    if (!isVersion)
+        qFatal("no version: %s", qPrintable(text));
+    return {VersionInfo(1, 0, 0), protocol, VersionInfo(1, 0, 0), text.section(' ', 1)};
+}
+
+Bench::Bench(const QString& versionsText, const QByteArray& script)
+    : versions(backend(versionsText)), parent(new QWidget), loader(PLUGIN_FILE)
 {
     failOnWarnings();
     channel.script(script);
@@ -130,15 +74,7 @@ void Bench::openBy(const DialogUser::Steps& trigger, const DialogUser::Steps& st
 {
     // As in a host: the focus goes from its window to the dialog.
     parent->activateWindow();
+    QApplication::processEvents();
     QVERIFY(QTest::qWaitFor([this] { return parent->isActiveWindow(); }));
     QVERIFY2(user().openBy(trigger, steps) != DialogUser::LeftOpen, "the dialog was left open");
-}
-
-QByteArray Bench::see(const QByteArray& name) const
-{
-    auto* widget = find<QWidget>(name);
-    if (!widget)
-        return "no widget " + name;
-    const QString state = QString(widget->isEnabled() ? "" : " off") + (widget->isHidden() ? " hidden" : "");
-    return (contentText(widget) + state).toUtf8();
 }

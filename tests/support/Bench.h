@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BackendVersions.h"
+#include "DialogText.h"
 #include "DialogUser.h"
 #include "ModuleLoader.h"
 #include "ScriptedChannel.h"
@@ -16,8 +17,8 @@
 class Bench
 {
 public:
-    explicit Bench(const QByteArray& protocol = "1.23", const QByteArray& script = QByteArray(),
-                   const QString& model = "FERNBANK");
+    /** Over protocol and model "1.23 FERNBANK", and with changes of the standard answers. */
+    explicit Bench(const QString& versionsText = "1.23 FERNBANK", const QByteArray& script = QByteArray());
     ~Bench();
 
     QDialog* dialog() const { return qobject_cast<QDialog*>(element->content); }
@@ -40,11 +41,8 @@ public:
         return open([this] { user().leave("Escape"); });
     }
 
-    /**
-     * Content and state of the named widget: a selector as "*text=data|...", a spin box as "minimum..maximum:value", a
-     * table row by row, a label by its text; behind it " off" when disabled and " hidden" when hidden.
-     */
-    QByteArray see(const QByteArray& name) const;
+    /** Content and state of the named widget, as textOfWidget() puts it. */
+    QByteArray see(const QByteArray& name) const { return textOfWidget(find<QWidget>(name)).toUtf8(); }
 
     ScriptedChannel channel;
     BackendVersions versions;
@@ -59,6 +57,9 @@ private:
 
     QTimer boxPoller;
 };
+
+/** The versions of a controller from a protocol and its model, "1.10 QUILLSTONE 3". */
+BackendVersions backend(const QString& text);
 
 /** Fails the running test at any Qt warning but the offscreen platform's own. */
 void failOnWarnings();

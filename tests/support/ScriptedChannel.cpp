@@ -22,6 +22,8 @@ void ScriptedChannel::script(const QByteArray& changes)
 
 bool ScriptedChannel::execute(const QByteArray& operation, const QByteArray& command, QByteArray* answer)
 {
+    if (commands.size() >= firstFailing && commands.size() < endOfFailing)
+        return false;
     const bool isSet = operation == "set";
     *answer = answers.value(operation + ' ' + command, answers.value(command, isSet ? "" : "!"));
     if (isSet && *answer != "!") {
@@ -31,6 +33,13 @@ bool ScriptedChannel::execute(const QByteArray& operation, const QByteArray& com
             *name = command.mid(separator + 1);
     }
     return *answer != "!";
+}
+
+void ScriptedChannel::finished(const CommandRecord& record)
+{
+    if (record.result != 0)
+        failed.append(commands.size());
+    commands.append(record.operation + ' ' + record.command);
 }
 
 void ScriptedChannel::reportError(const char* category, const char* systemTag, int flag, const char* message)

@@ -4,6 +4,7 @@
 
 #include <QByteArrayList>
 #include <QMap>
+#include <QVector>
 
 /**
  * The command channel of all tests: answers from a table, records every command behind its operation ("get synccard
@@ -23,16 +24,26 @@ public:
      */
     void script(const QByteArray& changes);
 
+    /** Fails the commands from the \a first one to come to the one before \a end, both counted from 0. */
+    void failBetween(int first, int end)
+    {
+        firstFailing = first;
+        endOfFailing = end;
+    }
+
     QByteArrayList takeCommands() { return std::exchange(commands, {}); }
     QByteArrayList takeReports() { return std::exchange(reports, {}); }
 
     QByteArrayList commands;
+    QVector<int> failed; // positions in commands
     QByteArrayList reports;
 
 protected:
     bool execute(const QByteArray& operation, const QByteArray& command, QByteArray* answer) override;
-    void finished(const CommandRecord& record) override { commands.append(record.operation + ' ' + record.command); }
+    void finished(const CommandRecord& record) override;
 
 private:
     QMap<QByteArray, QByteArray> answers;
+    int firstFailing = 0;
+    int endOfFailing = 0;
 };
