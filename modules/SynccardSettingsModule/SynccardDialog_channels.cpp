@@ -6,6 +6,7 @@
 #include "reporterror.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -103,6 +104,7 @@ void SynccardDialog::update_tableWidget_channels()
     const Qt::ItemFlags idleFlags =
         hasFixedIdle ? Qt::ItemFlags(Qt::ItemIsUserCheckable) : Qt::ItemIsUserCheckable | Qt::ItemIsEnabled;
     const QString maximumText = microseconds(maximumDelay, 1);
+    const QSignalBlocker blocker(tableWidget_channels); // four changes a row that nobody needs
     tableWidget_channels->setRowCount(boundedCount(channels));
     for (int row = 0; row < tableWidget_channels->rowCount(); ++row)
         show_channel(row, maximumText, idleFlags);

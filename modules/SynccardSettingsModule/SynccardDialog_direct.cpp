@@ -8,6 +8,8 @@
 
 #include <QHeaderView>
 
+#include <charconv>
+
 namespace {
 
 constexpr double defaultFrequencyHz = 60.0;
@@ -16,13 +18,11 @@ constexpr int defaultMaximumDivisor = 100;
 constexpr int fixedDivisor = 2;
 
 /** The number a serial token begins with; not \a ok when it begins with none, or with one beyond 64 bits. */
-qlonglong leadingNumber(const QString& token, bool* ok)
+qlonglong leadingNumber(const QByteArray& token, bool* ok)
 {
-    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
-    int digits = 0;
-    while (digits < token.size() && isDigit(token.at(digits)))
-        ++digits;
-    return token.left(digits).toLongLong(ok);
+    qlonglong number = 0;
+    *ok = std::from_chars(token.begin(), token.end(), number).ec == std::errc();
+    return number;
 }
 
 } // namespace
@@ -84,16 +84,15 @@ bool SynccardDialog::add_card(int number)
         reportError(cm, QStringLiteral("Error: Unable to get Synccard device info"));
         return false;
     }
-    const QString tokens = record.text().simplified();
-    const QString model = tokens.section(QLatin1Char(' '), 0, 0);
-    const QString serial = tokens.section(QLatin1Char(' '), 1, 1);
+    const QString model = record.word(0);
+    const QString serial = record.word(1);
     TextAnswer description;
     if (cm->getParameter(description.buffer(), "synccard model_desc %s", model.toLatin1().constData()) != 0) {
         reportError(cm, QStringLiteral("Error: Unable to get Synccard model description"));
         return false;
     }
     bool isNumber = false;
-    const qlonglong serialNumber = leadingNumber(serial, &isNumber);
+    const qlonglong serialNumber = leadingNumber(serial.toLatin1(), &isNumber);
     const bool hasSerial = !serial.isEmpty() && !(isNumber && serialNumber == 0);
 
     auto* modelItem = new QTableWidgetItem(description.text().remove(QLatin1Char('"')));

@@ -32,12 +32,11 @@ bool SynccardDialog::update_legacy_card()
         reportError(cm, QStringLiteral("Error: Unable to get Synccard device info"));
         return false;
     }
-    const QString desc = result.text().section(QLatin1Char('"'), 1, 1);
     const QString serial = result.text().section(QLatin1Char('"'), 2, 2).simplified().section(QLatin1Char(' '), 0, 0);
     auto* serialItem = new QTableWidgetItem(serial);
     serialItem->setTextAlignment(Qt::AlignCenter);
     tableWidget_synccards->insertRow(0);
-    tableWidget_synccards->setItem(0, 0, new QTableWidgetItem(desc));
+    tableWidget_synccards->setItem(0, 0, new QTableWidgetItem(result.quoted()));
     tableWidget_synccards->setItem(0, 1, serialItem);
     return true;
 }
@@ -83,7 +82,7 @@ void SynccardDialog::add_mode(int number)
         reportError(cm, QStringLiteral("Error: Unable to get Synccard mode description"));
         return;
     }
-    comboBox_modes->addItem(result.text().section(QLatin1Char('"'), 1, 1), id.text());
+    comboBox_modes->addItem(result.quoted(), id.text());
 }
 
 bool SynccardDialog::read_active_mode(QString* mode)

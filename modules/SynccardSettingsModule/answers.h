@@ -3,6 +3,8 @@
 #include <QString>
 #include <QtMath>
 
+#include <algorithm>
+
 /** A buffer of \a Size characters, the terminator included, for one text answer of the command channel. */
 template <int Size>
 class Answer
@@ -12,12 +14,35 @@ public:
     char* buffer() { return characters; }
 
     /** The answer as sent: the controller's texts are Latin-1. */
-    QString text() const { return QString::fromLatin1(characters, static_cast<int>(qstrnlen(characters, Size))); }
+    QString text() const { return latin1(); }
+
+    /** The text between the first and the second double quote, or behind the only one; empty without any. */
+    QString quoted() const
+    {
+        const QLatin1String all = latin1();
+        const int begin = all.indexOf(QLatin1Char('"')) + 1;
+        const int end = all.indexOf(QLatin1Char('"'), begin);
+        return begin == 0 ? QString() : QString(all.mid(begin, end < 0 ? -1 : end - begin));
+    }
+
+    /** The white-space separated word at \a index, counted from 0; empty when there are fewer. */
+    QString word(int index) const
+    {
+        const auto isSpace = [](char c) { return QChar::isSpace(static_cast<uchar>(c)); };
+        const char* const end = characters + length();
+        const char* begin = std::find_if_not(characters, end, isSpace);
+        for (; index > 0; --index)
+            begin = std::find_if_not(std::find_if(begin, end, isSpace), end, isSpace);
+        return QString::fromLatin1(begin, static_cast<int>(std::find_if(begin, end, isSpace) - begin));
+    }
 
     /** True only when "yes" is the whole answer. */
-    bool isYes() const { return text() == QLatin1String("yes"); }
+    bool isYes() const { return latin1() == QLatin1String("yes"); }
 
 private:
+    int length() const { return static_cast<int>(qstrnlen(characters, Size)); }
+    QLatin1String latin1() const { return QLatin1String(characters, length()); }
+
     char characters[Size] = {};
 };
 
