@@ -1,0 +1,27 @@
+#pragma once
+
+#include "IOManager.h"
+#include "Workload.h"
+
+/** A command channel that costs next to nothing: it recognises the format and answers without formatting anything. */
+class WorkloadChannel : public IOManager
+{
+public:
+    explicit WorkloadChannel(const Workload& workload) : workload(workload) {}
+
+    int sendCommand(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int getParameter(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int getParameterInt(int* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int getParameterDouble(double* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int getParameterBool(bool* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int setParameter(const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
+    void reportError(const char* category, const char* systemTag, int flag, const char* message) override;
+
+    Workload workload;
+    int commands = 0;        // so far
+    int reports = 0;         // so far: one means that the comparison is none
+    bool alternates = false; // whether each poll measures another frequency
+
+private:
+    bool isOtherFrequency = false;
+};

@@ -1,0 +1,154 @@
+#include "speed.h"
+
+#include "Comparison.h"
+#include "Report.h"
+#include "Stopwatch.h"
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QPluginLoader>
+
+namespace {
+
+constexpr int rounds = 401;
+constexpr int pollRounds = 41;
+constexpr int pollsPerRound = 500;
+const Workload typical = {8, 8, 1};
+
+void compareConstruction(Report* report)
+{
+    Comparison both(typical);
+    const auto medians = interleaved(
+        rounds, [&] { both.destruct(); }, [&] { both.constructModule(); }, [&] { both.constructBare(); });
+    report->row("construction", medians.first, medians.second, "1.10");
+}
+
+/** Returns the module's time. */
+double compareOpening(Report* report, const Workload& workload, const QString& goal)
+{
+    Comparison both(workload);
+    const QString difference = both.difference();
+    report->demand(difference.isEmpty(), workload.name() + ": " + difference);
+    const int commands = both.commandsOf([&] { both.openModule(); });
+    report->demand(commands == workload.openingCommands(),
+                   QString("opening %1 sends %2 commands").arg(workload.name()).arg(commands));
+    const auto medians = interleaved(
+        rounds, [] {}, [&] { both.openModule(); }, [&] { both.openBare(); });
+    report->row(QString("opening %1, %2 commands").arg(workload.name()).arg(commands), medians.first, medians.second,
+                goal);
+    return medians.first;
+}
+
+void compareRows(Report* report)
+{
+    const double none = compareOpening(report, {0, 8, 1}, "1.10");
+    const double ninetyNine = compareOpening(report, {99, 8, 1}, "0.80");
+    const double fourTimes = compareOpening(report, {396, 8, 1}, "0.80");
+    const double small = (ninetyNine - none) / 99.0;
+    const double large = (fourTimes - none) / 396.0;
+    report->line(QString("| a channel row at 396, at 99 | %1 | %2 | %3 | 1.20 |")
+                     .arg(large, 0, 'f', 2)
+                     .arg(small, 0, 'f', 2)
+                     .arg(large / small, 0, 'f', 2));
+}
+
+void comparePoll(Report* report, bool changes)
+{
+    Comparison both(typical);
+    both.channel.alternates = changes;
+    const auto poll = [&] {
+        for (int i = 0; i < pollsPerRound; ++i)
+            both.call("poll_input_frequency");
+    };
+    const auto showInput = [&] {
+        for (int i = 0; i < pollsPerRound; ++i) {
+            const bool isOther = changes && i % 2 == 0;
+            both.bare->label_inputSource->setText(isOther ? QStringLiteral("ttl") : QStringLiteral("video"));
+            both.bare->label_inputFrequency->setText(isOther ? QStringLiteral("120.000") : QStringLiteral("59.940"));
+        }
+    };
+    both.openModule([&] {
+        both.bare->show();
+        const int commands = both.commandsOf(poll) / pollsPerRound;
+        report->demand(commands == pollCommands, QString("a poll sends %1 commands").arg(commands));
+        const auto medians = interleaved(
+            pollRounds, [] {}, poll, showInput);
+        both.bare->hide();
+        report->row(QString("poll, %1, 2 commands").arg(changes ? "new texts" : "same texts"),
+                    medians.first / pollsPerRound, medians.second / pollsPerRound, "+ 1 us");
+    });
+}
+
+/** Times \a step in the open dialog, after \a change, and counts what it sends. */
+void reportStep(Report* report, const QString& what, const Workload& workload, int expectedCommands,
+                const std::function<void(Comparison&)>& change, const std::function<void(Comparison&)>& step)
+{
+    Comparison both(workload);
+    QVector<double> times;
+    int commands = 0;
+    for (int round = 0; round < rounds; ++round)
+        both.openModule([&] {
+            change(both);
+            commands = both.commandsOf([&] { times.append(microsecondsOf([&] { step(both); })); });
+        });
+    report->demand(commands == expectedCommands, QString("%1 sends %2 commands").arg(what).arg(commands));
+    report->row(QString("%1, %2 commands").arg(what).arg(commands), median(times));
+}
+
+void reportSteps(Report* report)
+{
+    const auto nothing = [](Comparison&) {};
+    const auto changeSource = [](Comparison& both) {
+        both.module->findChild<QComboBox*>("comboBox_source")->setCurrentIndex(1);
+    };
+    const auto changeFrequency = [](Comparison& both) {
+        both.module->findChild<QDoubleSpinBox*>("doubleSpinBox_frequency")->stepUp();
+    };
+    const auto ok = [](Comparison& both) { both.call("accept"); };
+    const auto cancel = [](Comparison& both) { both.call("reject"); };
+    reportStep(report, "source change", typical, sourceChangeCommands, nothing, changeSource);
+    for (const Workload& workload : {typical, Workload{99, 8, 1}})
+        reportStep(report, "OK " + workload.name(), workload, workload.savingCommands(), changeFrequency, ok);
+    reportStep(report, "OK without a change", typical, 0, nothing, ok);
+    reportStep(report, "Cancel without a change", typical, 0, nothing, cancel);
+    reportStep(report, "Cancel after a source change", typical, takingBackCommands, changeSource, cancel);
+}
+
+void compareLoading(Report* report)
+{
+    const auto loader = [](const QString& file) {
+        auto plugin = std::make_unique<QPluginLoader>(file);
+        plugin->setLoadHints({}); // so that it is really unloaded
+        return plugin;
+    };
+    std::unique_ptr<QPluginLoader> module;
+    std::unique_ptr<QPluginLoader> empty;
+    const auto prepare = [&] {
+        if (module)
+            report->demand(module->unload() && empty->unload(), "the plug-ins do not unload");
+        module = loader(ModuleLoader::defaultFile());
+        empty = loader(EMPTY_PLUGIN);
+    };
+    const auto load = [report](QPluginLoader* plugin) { report->demand(plugin->instance(), plugin->errorString()); };
+    const auto medians = interleaved(
+        rounds, prepare, [&] { load(module.get()); }, [&] { load(empty.get()); });
+    prepare();
+    report->row("loading, instance (empty Widgets plug-in)", medians.first, medians.second, "2.0");
+}
+
+} // namespace
+
+void reportSpeed(Report* report)
+{
+    report->line("| microseconds, medians | module | bare | ratio | goal |\n|---|---|---|---|---|");
+    compareConstruction(report);
+    compareOpening(report, typical, "1.10");
+    compareOpening(report, {8, 99, 1}, "1.10");
+    compareOpening(report, {8, 8, 99}, "1.10");
+    compareOpening(report, {99, 99, 99}, "0.80");
+    compareRows(report);
+    comparePoll(report, false);
+    comparePoll(report, true);
+    reportSteps(report);
+    compareLoading(report);
+}
