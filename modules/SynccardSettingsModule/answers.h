@@ -19,10 +19,9 @@ public:
     /** The text between the first and the second double quote, or behind the only one; empty without any. */
     QString quoted() const
     {
-        const QLatin1String all = latin1();
-        const int begin = all.indexOf(QLatin1Char('"')) + 1;
-        const int end = all.indexOf(QLatin1Char('"'), begin);
-        return begin == 0 ? QString() : QString(all.mid(begin, end < 0 ? -1 : end - begin));
+        const char* const end = characters + length();
+        const char* const open = std::find(static_cast<const char*>(characters), end, '"');
+        return open == end ? QString() : between(open + 1, std::find(open + 1, end, '"'));
     }
 
     /** The white-space separated word at \a index, counted from 0; empty when there are fewer. */
@@ -30,16 +29,20 @@ public:
     {
         const auto isSpace = [](char c) { return QChar::isSpace(static_cast<uchar>(c)); };
         const char* const end = characters + length();
-        const char* begin = std::find_if_not(characters, end, isSpace);
+        const char* begin = std::find_if_not(static_cast<const char*>(characters), end, isSpace);
         for (; index > 0; --index)
             begin = std::find_if_not(std::find_if(begin, end, isSpace), end, isSpace);
-        return QString::fromLatin1(begin, static_cast<int>(std::find_if(begin, end, isSpace) - begin));
+        return between(begin, std::find_if(begin, end, isSpace));
     }
 
     /** True only when "yes" is the whole answer. */
     bool isYes() const { return latin1() == QLatin1String("yes"); }
 
 private:
+    static QString between(const char* begin, const char* end)
+    {
+        return QString::fromLatin1(begin, static_cast<int>(end - begin));
+    }
     int length() const { return static_cast<int>(qstrnlen(characters, Size)); }
     QLatin1String latin1() const { return QLatin1String(characters, length()); }
 
