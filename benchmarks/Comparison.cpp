@@ -31,7 +31,7 @@ void Comparison::constructBare()
     bare = std::make_unique<BareDialog>(&parent);
 }
 
-void Comparison::openModule(const Steps& inside)
+void Comparison::openModule(const Steps& inside) const
 {
     QTimer::singleShot(0, module, [&] {
         if (inside)
@@ -41,7 +41,7 @@ void Comparison::openModule(const Steps& inside)
     call("update_and_exec");
 }
 
-void Comparison::openBare(const Steps& inside)
+void Comparison::openBare(const Steps& inside) const
 {
     QTimer::singleShot(0, bare.get(), [&] {
         if (inside)
@@ -57,7 +57,7 @@ void Comparison::call(const char* slot) const
     QMetaObject::invokeMethod(module, slot, Qt::DirectConnection);
 }
 
-int Comparison::commandsOf(const Steps& steps)
+int Comparison::commandsOf(const Steps& steps) const
 {
     const int before = channel.commands;
     steps();
@@ -80,8 +80,7 @@ QString Comparison::difference()
     });
     for (int i = 0; i < qMax(moduleLines.size(), bareLines.size()); ++i) {
         if (moduleLines.value(i) != bareLines.value(i))
-            return QString("the module shows \"%1\", the bare dialog \"%2\"")
-                .arg(moduleLines.value(i), bareLines.value(i));
+            return QString("the module shows '%1', the bare dialog '%2'").arg(moduleLines.value(i), bareLines.value(i));
     }
     if (channel.reports > 0)
         return "the module reports errors";

@@ -24,14 +24,14 @@ public:
     void constructBare();
 
     /** Fills and opens the module's dialog and, once it is up, takes \a inside and ends it. */
-    void openModule(const Steps& inside = nullptr);
-    void openBare(const Steps& inside = nullptr);
+    void openModule(const Steps& inside = nullptr) const;
+    void openBare(const Steps& inside = nullptr) const;
 
     /** Runs one of the slots of the module's dialog. */
     void call(const char* slot) const;
 
     /** How many commands \a steps send. */
-    int commandsOf(const Steps& steps);
+    int commandsOf(const Steps& steps) const;
 
     /** Why the two cannot be compared: a line that both show differently, a picture; empty when they are the same. */
     QString difference();

@@ -18,7 +18,7 @@ double microsecondsOf(Work work)
 
 inline double median(QVector<double> values)
 {
-    const auto middle = values.begin() + values.size() / 2;
+    auto* const middle = values.begin() + values.size() / 2;
     std::nth_element(values.begin(), middle, values.end());
     return *middle;
 }
