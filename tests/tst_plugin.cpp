@@ -200,6 +200,7 @@ void TestPlugin::hasForm()
         QVERIFY(channels->maximumHeight() == 110 && channels->isColumnHidden(3) && channels->rowHeight(1) == 20);
         QVERIFY(cards->maximumHeight() == 100 && cards->columnWidth(0) == 165 && cards->rowHeight(0) == 28);
         QVERIFY(channels->columnWidth(0) == 110 && channels->columnWidth(1) == 110);
+        QVERIFY(channels->verticalHeader()->isHidden() && cards->verticalHeader()->isHidden());
         QCOMPARE(channels->item(0, 0)->flags(), Qt::ItemIsEnabled);
         QCOMPARE(channels->item(0, 1)->textAlignment(), int(Qt::AlignRight | Qt::AlignVCenter));
         QCOMPARE(cards->item(0, 1)->textAlignment(), int(Qt::AlignCenter));
