@@ -4,18 +4,15 @@
 
 #include <QObject>
 
-class SimulatedController;
+class ControllerLink;
 
-/**
- * The command channel between a module and the simulated controller; adds the get or set framing. GUI thread only;
- * does not own the controller.
- */
+/** The command channel between a module and a controller's link, which it does not own. GUI thread only. */
 class ControllerChannel : public QObject, public FormattingChannel
 {
     Q_OBJECT
 
 public:
-    explicit ControllerChannel(SimulatedController* controller) : controller(controller) {}
+    explicit ControllerChannel(ControllerLink* link) : link(link) {}
 
     void reportError(const char* category, const char* systemTag, int flag, const char* message) override;
 
@@ -30,5 +27,5 @@ protected:
     void finished(const CommandRecord& record) override { emit executed(record); }
 
 private:
-    SimulatedController* controller;
+    ControllerLink* link;
 };

@@ -219,6 +219,17 @@ QString syntaxError(const QByteArray& text, const QJsonParseError& parseError)
 
 } // namespace
 
+bool readControllerState(const QJsonValue& value, ControllerState* state, QString* error)
+{
+    QString reason;
+    const ControllerState read = Reader(&reason).readState(value, *state);
+    if (reason.isEmpty())
+        *state = read;
+    else
+        *error = reason.simplified();
+    return reason.isEmpty();
+}
+
 bool readControllerFile(const QString& file, ControllerState* state, QString* error)
 {
     QFile input(file);
@@ -229,17 +240,13 @@ bool readControllerFile(const QString& file, ControllerState* state, QString* er
     const QByteArray text = input.readAll();
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
+    const QJsonValue whole = document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
     QString reason;
-    ControllerState read = *state;
     if (parseError.error != QJsonParseError::NoError)
-        reason = syntaxError(text, parseError);
+        reason = syntaxError(text, parseError).simplified();
     else
-        read = Reader(&reason).readState(
-            document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array()), *state);
-    if (!reason.isEmpty()) {
-        *error = file + ": " + reason.simplified();
-        return false;
-    }
-    *state = read;
-    return true;
+        readControllerState(whole, state, &reason);
+    if (!reason.isEmpty())
+        *error = file + ": " + reason;
+    return reason.isEmpty();
 }

@@ -8,3 +8,6 @@
  * be read, names something unknown or contradicts itself; \a state is unchanged then.
  */
 bool readControllerFile(const QString& file, ControllerState* state, QString* error);
+
+/** The same with \a value, as ControllerState::toJson() makes it, in place of a file; \a error is "place: reason". */
+bool readControllerState(const QJsonValue& value, ControllerState* state, QString* error);

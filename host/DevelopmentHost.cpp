@@ -1,25 +1,93 @@
 #include "DevelopmentHost.h"
 
+#include <QApplication>
+
 /** The host's own ":/lock.png", from which the module's dialog takes its lock icon. */
 static void registerResources() // Q_INIT_RESOURCE does not work inside a namespace.
 {
     Q_INIT_RESOURCE(host);
 }
 
-DevelopmentHost::DevelopmentHost(const ControllerState& state, const QString& pluginFile)
-    : controller(state), channel(&controller),
-      versions(VersionInfo(1, 0, 0), state.protocol, VersionInfo(1, 0, 0), state.model), window(state),
-      loader(pluginFile)
+namespace {
+
+bool isLegacy(const ControllerState& state)
 {
-    QObject::connect(&channel, &ControllerChannel::reported, &window, &MainWindow::showReport);
+    return state.protocol < VersionInfo(0, 13, -1);
+}
+
+ControllerLink* lowest(const HostSetup& setup, SimulatedController* controller, Replay* replay)
+{
+    if (setup.replay.isEmpty())
+        return controller;
+    return replay;
+}
+
+} // namespace
+
+DevelopmentHost::DevelopmentHost(const HostSetup& setup)
+    : setup(setup), controller(setup.state), replay(setup.replay), faults(lowest(setup, &controller, &replay)),
+      recorder(&faults), channel(&recorder), versions({1, 0, 0}, setup.state.protocol, {1, 0, 0}, setup.state.model),
+      loader(setup.pluginFile)
+{
+    faults.failMatching(setup.failing);
+    faults.setLatency(setup.latency);
+    QObject::connect(&window, &MainWindow::measurementSwitched, &window,
+                     [this](bool isOn) { loader.setMeasurementRunning(isOn); });
 }
 
 bool DevelopmentHost::start()
 {
     registerResources();
-    if (!loader.load())
+    if (!openRecordings())
         return false;
+    connectTo(isReplaying() ? replay.recordedController(setup.state) : setup.state);
+    return loadModule();
+}
+
+bool DevelopmentHost::restart(const ControllerState& state)
+{
+    loader.unload();
+    connectTo(state);
+    return loadModule();
+}
+
+QString DevelopmentHost::changeState(const ControllerState& state)
+{
+    if (isLegacy(state) == isLegacy(controller.state())) {
+        const bool isSame = versions.protocol() == state.protocol && versions.hubModel() == state.model;
+        isSame ? controller.setState(state) : connectTo(state);
+        return {};
+    }
+    if (QApplication::activeModalWidget())
+        return "protocol: close the dialog first; across 0.13 the module is loaded anew";
+    return restart(state) ? QString() : error;
+}
+
+bool DevelopmentHost::openRecordings()
+{
+    if (isReplaying() && !replay.open())
+        error = replay.problem();
+    else if (!setup.record.isEmpty() && !recorder.open(setup.record))
+        error = recorder.errorString();
+    return error.isEmpty();
+}
+
+bool DevelopmentHost::loadModule()
+{
+    if (!loader.load()) {
+        error = loader.errorString();
+        return false;
+    }
     loader.setParameters(&channel, &window, &versions, false);
     loader.placeElements(window.menuBar());
+    loader.setMeasurementRunning(window.isMeasurementRunning());
     return true;
+}
+
+void DevelopmentHost::connectTo(const ControllerState& state)
+{
+    versions = BackendVersions({1, 0, 0}, state.protocol, {1, 0, 0}, state.model);
+    controller.setState(state);
+    QByteArray nothing;
+    recorder.execute("connect", QString(state.protocol.toString() + ' ' + state.model).toLatin1(), &nothing);
 }

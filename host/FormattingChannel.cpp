@@ -1,5 +1,7 @@
 #include "FormattingChannel.h"
 
+#include <QElapsedTimer>
+
 #include <cstdarg>
 #include <cstdio>
 #include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale() is not in <clocale>
@@ -115,9 +117,11 @@ int FormattingChannel::answerText(const char* operation, const QByteArray& comma
 template <typename Take>
 int FormattingChannel::carryOut(const char* operation, const QByteArray& command, Take take)
 {
+    QElapsedTimer timer;
+    timer.start();
     QByteArray value;
     const bool isTaken = take(execute(operation, command, &value) ? &value : nullptr);
     const int result = isTaken ? 0 : -1;
-    finished({operation, command, isTaken ? value : QByteArray(), result});
+    finished({operation, command, isTaken ? value : QByteArray(), result, timer.nsecsElapsed() / 1000});
     return result;
 }

@@ -1,21 +1,7 @@
 #pragma once
 
+#include "CommandRecord.h"
 #include "IOManager.h"
-
-#include <QByteArray>
-
-/** One command as it went over a channel. */
-struct CommandRecord
-{
-    /** "send" for a raw command, "get", "int", "double", "bool" for the reads, "set". */
-    QByteArray operation;
-    /** The command as the module formatted it. */
-    QByteArray command;
-    /** The value or reply line; empty for a set or a failure. */
-    QByteArray answer;
-    /** 0 on success. */
-    int result;
-};
 
 /**
  * What every command channel does alike: formats commands and parses numbers with a decimal point whatever the user's

@@ -1,6 +1,7 @@
 #include "HostOptions.h"
 
 #include "ControllerFile.h"
+#include "Faults.h"
 #include "ModuleLoader.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,10 @@ HostOptions::HostOptions(const QString& description)
     parser.addOption({"controller", "Takes the simulated controller from <file> (JSON).", "file"});
     parser.addOption({"protocol", "Lets the controller speak protocol <version>, such as 0.12.7 or 1.23.", "version"});
     parser.addOption({"plugin", "Loads the module from <file>.", "file"});
+    parser.addOption({"fail", "Fails every command that the regular expression <pattern> is found in.", "pattern"});
+    parser.addOption({"latency", "Lets each command take <ms> longer, 0 to 5000.", "ms"});
+    parser.addOption({"record", "Writes every command into <file>.", "file"});
+    parser.addOption({"replay", "Answers from the recording <file> instead of a simulated controller.", "file"});
 }
 
 bool HostOptions::parse(int argc, char* argv[])
@@ -41,13 +46,16 @@ bool HostOptions::parse(int argc, char* argv[])
         say(stdout, QCoreApplication::applicationName() + " " HOST_VERSION "\n");
         return end(0);
     }
-    return readController() && readProtocol();
+    host.pluginFile = parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
+    host.record = parser.value("record");
+    host.replay = parser.value("replay");
+    return readController() && readProtocol() && readFaults();
 }
 
 bool HostOptions::readController()
 {
     QString error;
-    if (parser.isSet("controller") && !readControllerFile(parser.value("controller"), &state, &error))
+    if (parser.isSet("controller") && !readControllerFile(parser.value("controller"), &host.state, &error))
         return end(fail(error));
     return true;
 }
@@ -57,13 +65,22 @@ bool HostOptions::readProtocol()
     const QString text = parser.value("protocol");
     bool isVersion = !parser.isSet("protocol");
     if (!isVersion)
-        state.protocol.fromString(text, &isVersion);
+        host.state.protocol.fromString(text, &isVersion);
     return isVersion || end(fail("--protocol " + text + ": a version such as 1.23 or 1.23.0 is expected"));
 }
 
-QString HostOptions::pluginFile() const
+bool HostOptions::readFaults()
 {
-    return parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
+    host.failing.setPattern(parser.value("fail"));
+    if (!host.failing.isValid())
+        return end(fail("--fail " + parser.value("fail") + ": " + host.failing.errorString()));
+    const QString text = parser.value("latency");
+    bool isLatency = !parser.isSet("latency");
+    if (!isLatency)
+        host.latency = text.toInt(&isLatency);
+    if (isLatency && host.latency >= 0 && host.latency <= Faults::maximumLatency)
+        return true;
+    return end(fail("--latency " + text + ": milliseconds from 0 to 5000 are expected"));
 }
 
 bool HostOptions::end(int exitStatus)

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "ControllerState.h"
+#include "HostSetup.h"
 
 #include <QCommandLineParser>
 
 /**
- * The command line of the host's programs: --help, --version, --controller, --protocol and --plugin, and what a program
- * adds. Errors are one line on standard error.
+ * The command line of the host's programs, --help tells it, and what a program adds. Errors are one line on standard
+ * error.
  */
 class HostOptions
 {
@@ -25,11 +25,8 @@ public:
 
     QString value(const QString& option) const { return parser.value(option); }
 
-    /** The built-in controller, or the one that --controller names, with the protocol that --protocol names. */
-    const ControllerState& controllerState() const { return state; }
-
-    /** The module's plug-in: the one --plugin names, or the one beside the program. Needs a QCoreApplication. */
-    QString pluginFile() const;
+    /** What the arguments say; without them the built-in controller and the plug-in beside the program. */
+    const HostSetup& setup() const { return host; }
 
     /** Says \a message on standard error and returns the exit status 2. */
     static int fail(const QString& message);
@@ -38,8 +35,9 @@ private:
     bool end(int exitStatus);
     bool readController();
     bool readProtocol();
+    bool readFaults();
 
     QCommandLineParser parser;
-    ControllerState state = ControllerState::builtIn();
+    HostSetup host;
     int status = 0;
 };

@@ -1,60 +1,47 @@
 #include "MainWindow.h"
 
-#include "ControllerState.h"
-
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFormLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStatusBar>
 #include <QStyle>
 
 namespace {
 
-QWidget* createDescription(const ControllerState& state)
-{
-    auto* description = new QWidget;
-    auto* layout = new QFormLayout(description);
-    const auto addRow = [layout](const QString& caption, const QString& text) {
-        auto* value = new QLabel(text);
-        value->setTextFormat(Qt::PlainText);
-        layout->addRow(caption, value);
-    };
-    addRow(MainWindow::tr("Protocol:"), state.protocol.toString());
-    addRow(MainWindow::tr("Controller model:"), state.model);
-    addRow(MainWindow::tr("Synccards:"), QString::number(state.cards.size()));
-    addRow(MainWindow::tr("Predefined modes:"), QString::number(state.modes.size()));
-    addRow(MainWindow::tr("Sync input:"), state.input.isEmpty() ? MainWindow::tr("none") : state.input);
-    addRow(MainWindow::tr("Configuration:"), state.locked ? MainWindow::tr("locked") : MainWindow::tr("changeable"));
-    return description;
-}
+constexpr int margin = 24;
 
 } // namespace
 
-MainWindow::MainWindow(const ControllerState& state) : reportLabel(new QLabel)
+MainWindow::MainWindow()
 {
     setWindowTitle(tr("Development Host"));
     setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon));
-    setMinimumWidth(420);
-    setCentralWidget(createDescription(state));
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    // With it, a window without parent stays usable while a dialog of this window is open.
+    setAttribute(Qt::WA_GroupLeader);
+    auto* hint = new QLabel(tr("The module's entry is in the menu Hardware.\n"
+                               "The workbench shows what it asks, and what the controller is."));
+    hint->setMargin(margin);
+    setCentralWidget(hint);
+    QMenu* menu = menuBar()->addMenu(tr("Ho&st"));
+    measurement = menu->addAction(tr("&Measurement running"), this, &MainWindow::measurementSwitched);
+    measurement->setCheckable(true);
+    measurement->setShortcut(QKeySequence(tr("Ctrl+M")));
+    menu->addAction(tr("&Workbench"), this, &MainWindow::workbenchWanted, QKeySequence(tr("Ctrl+B")));
+    menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
-    reportLabel->setObjectName("newestReport");
-    reportLabel->setTextFormat(Qt::PlainText);
-    statusBar()->addWidget(reportLabel, 1);
 }
 
-void MainWindow::showReport(const QString& /*category*/, const QString& /*systemTag*/, int /*flag*/,
-                            const QString& message)
+bool MainWindow::isMeasurementRunning() const
 {
-    reportCount = message == newestReport ? reportCount + 1 : 1;
-    newestReport = message;
-    reportLabel->setText(reportCount > 1 ? tr("%1 (%2 times)").arg(message, QString::number(reportCount)) : message);
+    return measurement->isChecked();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(!QApplication::activeModalWidget());
+    const bool isFree = !QApplication::activeModalWidget();
+    event->setAccepted(isFree);
+    if (isFree)
+        QApplication::quit();
 }

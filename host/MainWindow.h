@@ -2,27 +2,25 @@
 
 #include <QMainWindow>
 
-struct ControllerState;
-class QLabel;
-
-/** The development host's window: the menus, what the controller is, and the newest error report, never a box. */
+/** The development host's window with the menus. A module's dialog is modal to it and its like, not to the workbench.
+ */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit MainWindow(const ControllerState& state);
+    MainWindow();
 
-public slots:
-    /** Shows the report in the status bar; equal reports in a row are counted. */
-    void showReport(const QString& category, const QString& systemTag, int flag, const QString& message);
+    bool isMeasurementRunning() const;
+
+signals:
+    void measurementSwitched(bool isOn);
+    void workbenchWanted();
 
 protected:
-    /** The window stays while a module's dialog is open, so that nothing entered there is lost. */
+    /** Ends the program, but not while a module's dialog is open, so that nothing entered there is lost. */
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QLabel* reportLabel;
-    QString newestReport;
-    int reportCount = 0;
+    QAction* measurement;
 };

@@ -106,6 +106,13 @@ void ModuleLoader::placeElements(QMenuBar* menuBar)
     }
 }
 
+void ModuleLoader::setMeasurementRunning(bool isRunning)
+{
+    const QList<_GuiElement*> elements = interface ? interface->get_gui_elements() : QList<_GuiElement*>();
+    for (const GuiElement* element : elements)
+        element->menu_entry->setEnabled(!isRunning || element->action_active_during_measurement != 0);
+}
+
 void ModuleLoader::unload()
 {
     if (!interface)

@@ -40,6 +40,9 @@ public:
     /** Places the module's menu entries into \a menuBar by their order numbers. */
     void placeElements(QMenuBar* menuBar);
 
+    /** Disables the menu entries that must not be used while a measurement is running, or enables them again. */
+    void setMeasurementRunning(bool isRunning);
+
     /** Ends the module, deletes it and unmaps the library. */
     void unload();
 

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "ControllerLink.h"
 #include "ControllerState.h"
 
-#include <QByteArray>
+#include <QObject>
 
 /** What the controller answers to one command line. */
 struct ControllerReply
@@ -17,15 +18,23 @@ struct ControllerReply
  * changes it. Unknown commands, commands newer than its protocol, values outside its limits and sets while it is
  * locked fail and change nothing.
  */
-class SimulatedController
+class SimulatedController : public QObject, public ControllerLink
 {
+    Q_OBJECT
+
 public:
     explicit SimulatedController(const ControllerState& initial) : current(initial) {}
 
     ControllerReply execute(const QByteArray& commandLine);
+    /** The same with the framing that the operation asks for. */
+    bool execute(const QByteArray& operation, const QByteArray& command, QByteArray* answer) override;
 
     const ControllerState& state() const { return current; }
-    void setState(const ControllerState& state) { current = state; }
+    void setState(const ControllerState& state);
+
+signals:
+    /** The state is another one, by a command or by setState(). */
+    void changed();
 
 private:
     ControllerState current;

@@ -1,5 +1,6 @@
 #include "DevelopmentHost.h"
 #include "HostOptions.h"
+#include "Workbench.h"
 
 #include <QApplication>
 
@@ -9,11 +10,18 @@ int main(int argc, char* argv[])
     if (!options.parse(argc, argv))
         return options.exitStatus();
 
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     int programNameOnly = 1;
     const QApplication application(programNameOnly, argv);
-    DevelopmentHost host(options.controllerState(), options.pluginFile());
+    DevelopmentHost host(options.setup());
+    Workbench workbench(&host);
+    QObject::connect(&host.replay, &Replay::differed, &HostOptions::fail);
     if (!host.start())
         return HostOptions::fail(host.errorString());
     host.window.show();
+    workbench.move(host.window.frameGeometry().topRight());
+    workbench.show();
+    host.window.activateWindow();
     return QApplication::exec();
 }

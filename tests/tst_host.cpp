@@ -1,9 +1,9 @@
 #include "ControllerFile.h"
 #include "DevelopmentHost.h"
+#include "ReportModel.h"
 #include "StateDifference.h"
 
 #include <QJsonArray>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProcess>
@@ -29,6 +29,13 @@ private slots:
     void placesTheEntry();
     void countsReports();
 };
+
+HostSetup setup()
+{
+    HostSetup result;
+    result.pluginFile = ModuleLoader::defaultFile();
+    return result;
+}
 
 /** Rows of two texts from a file of tests/data: "left -> right". */
 void addRows(const char* name)
@@ -70,7 +77,7 @@ void TestHost::answers()
 /** What is set is read back; a source that allows less takes divisor and output along. */
 void TestHost::movesWithTheSource()
 {
-    DevelopmentHost host(ControllerState::builtIn(), QString());
+    DevelopmentHost host{HostSetup()};
     const auto set = [&](const char* command) {
         return host.controller.execute("zorvan2 set synccard " + QByteArray(command)).ok;
     };
@@ -172,7 +179,7 @@ void TestHost::namesWhatIsWrong()
 
 void TestHost::placesTheEntry()
 {
-    DevelopmentHost host(ControllerState::builtIn(), ModuleLoader::defaultFile());
+    DevelopmentHost host(setup());
     QMenuBar* bar = host.window.menuBar();
     bar->addMenu("Late")->menuAction()->setProperty("orderNumber", 300);
     QVERIFY2(host.start(), qPrintable(host.errorString()));
@@ -186,13 +193,11 @@ void TestHost::placesTheEntry()
 
 void TestHost::countsReports()
 {
-    DevelopmentHost host(ControllerState::builtIn(), QString());
-    const auto shown = [&] {
-        host.channel.reportError("standard", "ZORVAN3", 1, "Error: <b>x</b>");
-        return host.window.findChild<QLabel*>("newestReport")->text();
-    };
-    QCOMPARE(shown(), "Error: <b>x</b>");
-    QCOMPARE(shown(), "Error: <b>x</b> (2 times)");
+    ReportModel reports;
+    for (const char* message : {"a", "b", "a"})
+        reports.add("standard", "ZORVAN3", 1, message);
+    QCOMPARE(reports.rowCount(), 2);
+    QCOMPARE(reports.item(0, 4)->text() + reports.item(1, 4)->text(), "21");
 }
 
 QTEST_MAIN(TestHost)

@@ -4,17 +4,21 @@
 #include "StateDifference.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QTest>
 
 #include <cmath>
 #include <cstdio>
 
 namespace {
+
+constexpr int boxPollMilliseconds = 5;
 
 void print(const QString& line)
 {
@@ -40,13 +44,30 @@ void roundAsShown(CardState* card)
 
 } // namespace
 
-Tour::Tour(const ControllerState& state, const QString& pluginFile, const QString& pictureFolder)
-    : initial(state), expected(state), pluginFile(pluginFile), pictureFolder(pictureFolder)
-{}
+Tour::Tour(const HostSetup& setup, const QString& pictureFolder)
+    : initial(setup.state), expected(setup.state), pictureFolder(pictureFolder), host(setup)
+{
+    QObject::connect(&host.channel, &ControllerChannel::executed, printCommand);
+    QObject::connect(&host.channel, &ControllerChannel::reported,
+                     [](const QString&, const QString&, int, const QString& message) { print("report: " + message); });
+    QObject::connect(&boxPoller, &QTimer::timeout, [this] { closeBox(); });
+    boxPoller.start(boxPollMilliseconds);
+    QObject::connect(&host.replay, &Replay::differed, [this](const QString& problem) { demand(false, problem); });
+}
+
+bool Tour::start()
+{
+    if (!host.start()) {
+        firstProblem = host.errorString();
+        return false;
+    }
+    host.window.show();
+    meetDialog();
+    return true;
+}
 
 bool Tour::run()
 {
-    startHost(initial);
     using Visit = void (Tour::*)();
     for (const Visit next :
          {&Tour::raiseFrequency, &Tour::takeSourceBack, &Tour::editChannels, &Tour::choosePredefinedMode,
@@ -59,8 +80,7 @@ bool Tour::run()
 
 void Tour::raiseFrequency()
 {
-    if (host)
-        takePicture(&host->window, "host");
+    takePicture(&host.window, "host");
     visit("Raise the internal frequency, OK", [this] {
         demand(!initial.cards.isEmpty(), "the tour needs a controller with a synccard");
         demand(!initial.locked, "the tour needs a controller that is not locked");
@@ -146,7 +166,7 @@ void Tour::meetLegacyController()
     ControllerState legacy = initial;
     legacy.protocol = VersionInfo(0, 12, 7);
     legacy.activeMode = legacy.modes.last().id;
-    startHost(legacy);
+    restart(legacy);
     visit("A legacy controller: choose a mode, OK", [this] {
         look("legacy");
         demand(user->choose("comboBox_modes", initial.modes.first().id), "the mode cannot be chosen");
@@ -159,7 +179,7 @@ void Tour::meetLockedController()
 {
     ControllerState locked = initial;
     locked.locked = true;
-    startHost(locked);
+    restart(locked);
     visit("A locked controller: look, Escape", [this] {
         waitForPoll();
         look("locked");
@@ -173,7 +193,7 @@ void Tour::meetControllerWithoutSynccard()
 {
     ControllerState bare = initial;
     bare.cards.clear();
-    startHost(bare);
+    restart(bare);
     visit("A controller without synccard: look, close", [this] {
         look("no-synccard");
         demand(!user->find<QLabel>("label_error")->isHidden(), "the notice is missing");
@@ -181,19 +201,22 @@ void Tour::meetControllerWithoutSynccard()
     });
 }
 
-void Tour::startHost(const ControllerState& state)
+/** Ends the module and starts it before another controller. */
+void Tour::restart(const ControllerState& state)
 {
-    user.reset();
-    host = std::make_unique<DevelopmentHost>(state, pluginFile);
+    if (hasFailed())
+        return;
     expected = state;
-    if (!host->start())
-        return demand(false, host->errorString());
-    QObject::connect(&host->channel, &ControllerChannel::executed, printCommand);
-    QObject::connect(&host->channel, &ControllerChannel::reported,
-                     [](const QString&, const QString&, int, const QString& message) { print("report: " + message); });
-    user = std::make_unique<DialogUser>(
-        qobject_cast<QDialog*>(host->loader.module()->get_gui_elements().first()->content));
-    host->window.show();
+    const bool isStarted = host.restart(state);
+    demand(isStarted, host.errorString());
+    if (isStarted)
+        meetDialog();
+}
+
+void Tour::meetDialog()
+{
+    user =
+        std::make_unique<DialogUser>(qobject_cast<QDialog*>(host.loader.module()->get_gui_elements().first()->content));
 }
 
 /** Opens the dialog by its shortcut, lets \a steps leave it, and looks at what the controller has become. */
@@ -202,13 +225,15 @@ void Tour::visit(const QString& title, const DialogUser::Steps& steps)
     if (hasFailed())
         return;
     print("\n" + title);
-    host->window.activateWindow();
-    demand(QTest::qWaitFor([this] { return host->window.isActiveWindow(); }),
+    host.window.activateWindow();
+    demand(QTest::qWaitFor([this] { return host.window.isActiveWindow(); }),
            "the host's window does not become active");
-    const auto outcome = user->openBy([this] { QTest::keyClick(&host->window, Qt::Key_F7, Qt::ShiftModifier); }, steps);
+    const auto outcome = user->openBy([this] { QTest::keyClick(&host.window, Qt::Key_F7, Qt::ShiftModifier); }, steps);
     demand(outcome != DialogUser::NotShown, title + ": the dialog was not shown");
     demand(outcome != DialogUser::LeftOpen, title + ": the dialog did not close");
-    const QString difference = firstDifference(expected.toJson(), host->controller.state().toJson());
+    // A recording knows what was asked, not what the controller has become.
+    const QString difference =
+        host.isReplaying() ? QString() : firstDifference(expected.toJson(), host.controller.state().toJson());
     demand(difference.isEmpty(), title + ": " + difference);
 }
 
@@ -217,6 +242,16 @@ void Tour::waitForPoll()
     const auto* input = user->find<QLabel>("label_inputSource");
     demand(initial.input.isEmpty() || QTest::qWaitFor([input] { return !input->text().isEmpty(); }),
            "the sync input is not polled");
+}
+
+/** The tour does nothing that should fail: it ends with the first warning. */
+void Tour::closeBox()
+{
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box)
+        return;
+    demand(false, "the dialog warns: " + box->text());
+    box->accept();
 }
 
 /** Prints what the dialog shows, and takes its picture. */

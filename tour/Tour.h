@@ -5,6 +5,7 @@
 #include "DialogUser.h"
 
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 
@@ -17,7 +18,10 @@ class Tour
 {
 public:
     /** Pictures go into \a pictureFolder, if it is not empty. */
-    Tour(const ControllerState& state, const QString& pluginFile, const QString& pictureFolder);
+    Tour(const HostSetup& setup, const QString& pictureFolder);
+
+    /** Starts the host. False when it cannot; problem() says why. */
+    bool start();
 
     /** The whole tour; stops at the first thing amiss, which problem() names. */
     bool run();
@@ -32,9 +36,11 @@ private:
     void meetLockedController();
     void meetControllerWithoutSynccard();
 
-    void startHost(const ControllerState& state);
+    void restart(const ControllerState& state);
+    void meetDialog();
     void visit(const QString& title, const DialogUser::Steps& steps);
     void waitForPoll();
+    void closeBox();
     void look(const QString& name);
     void takePicture(QWidget* widget, const QString& name);
     void demand(bool condition, const QString& what);
@@ -42,9 +48,9 @@ private:
 
     ControllerState initial;
     ControllerState expected;
-    QString pluginFile;
     QString pictureFolder;
     QString firstProblem;
-    std::unique_ptr<DevelopmentHost> host;
+    DevelopmentHost host;
     std::unique_ptr<DialogUser> user;
+    QTimer boxPoller;
 };

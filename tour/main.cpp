@@ -34,7 +34,9 @@ int main(int argc, char* argv[])
     qInstallMessageHandler(noteWarning);
     int programNameOnly = 1;
     const QApplication application(programNameOnly, argv);
-    Tour tour(options.controllerState(), options.pluginFile(), pictures);
+    Tour tour(options.setup(), pictures);
+    if (!tour.start())
+        return HostOptions::fail(tour.problem());
     if (!tour.run()) {
         static_cast<void>(std::fflush(stdout));
         HostOptions::fail(tour.problem());

@@ -1,0 +1,50 @@
+#include "CommandModel.h"
+
+#include <QFont>
+
+QVariant CommandModel::data(const QModelIndex& index, int role) const
+{
+    const Row& row = rows.at(index.row());
+    const bool hasFailed = row.record.result != 0;
+    if (role == Qt::FontRole && hasFailed) {
+        QFont bold;
+        bold.setBold(true);
+        return bold;
+    }
+    if (role != Qt::DisplayRole)
+        return {};
+    switch (index.column()) {
+    case TimeColumn:
+        return row.time.toString("HH:mm:ss.zzz");
+    case OperationColumn:
+        return QString::fromLatin1(row.record.operation);
+    case CommandColumn:
+        return QString::fromLatin1(row.record.command);
+    case AnswerColumn:
+        return QString::fromLatin1(row.record.answer);
+    case ResultColumn:
+        return hasFailed ? tr("failed (%1)").arg(row.record.result) : tr("ok");
+    default:
+        return tr("%1 ms").arg(static_cast<double>(row.record.microseconds) / 1000.0, 0, 'f', 3);
+    }
+}
+
+QVariant CommandModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const QStringList names = {tr("Time"), tr("Operation"), tr("Command"), tr("Answer"), tr("Result"), tr("Duration")};
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? names.value(section) : QVariant();
+}
+
+void CommandModel::append(const CommandRecord& record)
+{
+    beginInsertRows({}, rows.size(), rows.size());
+    rows.append({QTime::currentTime(), record});
+    endInsertRows();
+}
+
+void CommandModel::clear()
+{
+    beginResetModel();
+    rows.clear();
+    endResetModel();
+}

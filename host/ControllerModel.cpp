@@ -1,0 +1,129 @@
+#include "ControllerModel.h"
+
+#include "ControllerFile.h"
+#include "SimulatedController.h"
+
+#include <QFont>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTimer>
+
+namespace {
+
+constexpr int nameRole = Qt::UserRole;
+
+/** \a whole with \a value at \a path, the names and positions from the root on. */
+QJsonValue replaced(const QJsonValue& whole, const QStringList& path, const QJsonValue& value)
+{
+    if (path.isEmpty())
+        return value;
+    const QStringList rest = path.mid(1);
+    if (whole.isArray()) {
+        QJsonArray array = whole.toArray();
+        const int position = path.first().toInt() - 1;
+        array.replace(position, replaced(array.at(position), rest, value));
+        return array;
+    }
+    QJsonObject object = whole.toObject();
+    object.insert(path.first(), replaced(object.value(path.first()), rest, value));
+    return object;
+}
+
+QStandardItem* newItem(bool isEditable)
+{
+    auto* item = new QStandardItem;
+    item->setEditable(isEditable);
+    return item;
+}
+
+} // namespace
+
+ControllerModel::ControllerModel(SimulatedController* controller, Apply apply)
+    : controller(controller), apply(std::move(apply))
+{
+    setHorizontalHeaderLabels({tr("Name"), tr("Value")});
+    markFromNow();
+    // A burst of commands is shown once.
+    auto* timer = new QTimer(this);
+    timer->setSingleShot(true);
+    connect(controller, &SimulatedController::changed, timer, QOverload<>::of(&QTimer::start));
+    connect(timer, &QTimer::timeout, this, &ControllerModel::refresh);
+    connect(this, &QStandardItemModel::itemChanged, this, &ControllerModel::take);
+}
+
+void ControllerModel::markFromNow()
+{
+    marked = controller->state().toJson();
+    refresh();
+}
+
+void ControllerModel::refresh()
+{
+    isRefreshing = true;
+    show(invisibleRootItem(), controller->state().toJson(), marked);
+    isRefreshing = false;
+}
+
+void ControllerModel::show(QStandardItem* parent, const QJsonValue& value, const QJsonValue& before)
+{
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        parent->setRowCount(array.size());
+        for (int i = 0; i < array.size(); ++i)
+            showEntry(parent, i, QString::number(i + 1), array.at(i), before.toArray().at(i));
+        return;
+    }
+    const QJsonObject object = value.toObject();
+    const QStringList names = object.keys();
+    parent->setRowCount(names.size());
+    for (int i = 0; i < names.size(); ++i)
+        showEntry(parent, i, names.at(i), object.value(names.at(i)), before.toObject().value(names.at(i)));
+}
+
+void ControllerModel::showEntry(QStandardItem* parent, int row, const QString& name, const QJsonValue& value,
+                                const QJsonValue& before)
+{
+    const bool isLeaf = !value.isArray() && !value.isObject();
+    if (!parent->child(row, 0)) {
+        parent->setChild(row, 0, newItem(false));
+        parent->setChild(row, 1, newItem(isLeaf));
+    }
+    QStandardItem* nameItem = parent->child(row, 0);
+    nameItem->setData(name, nameRole);
+    const bool isChanged = value != before;
+    nameItem->setText(isChanged ? name + " *" : name);
+    QFont font = nameItem->font();
+    font.setBold(isChanged);
+    nameItem->setFont(font);
+    if (isLeaf)
+        parent->child(row, 1)->setData(value.isBool() ? value.toVariant() : value.toVariant().toString(), Qt::EditRole);
+    else
+        show(nameItem, value, before);
+}
+
+/** Takes over an edited value, or puts the old one back. */
+void ControllerModel::take(const QStandardItem* item)
+{
+    if (isRefreshing || item->column() != 1)
+        return;
+    QStringList path;
+    for (QModelIndex index = item->index(); index.isValid(); index = index.parent())
+        path.prepend(nameOf(index));
+    const QJsonValue whole = controller->state().toJson();
+    const QVariant entered = item->data(Qt::EditRole);
+    bool isNumber = false;
+    const double number = entered.toString().toDouble(&isNumber);
+    ControllerState state = controller->state();
+    QString reason;
+    // A number stays one; a text that looks like one stays a text.
+    for (const QJsonValue& value : {QJsonValue::fromVariant(entered), QJsonValue(number)}) {
+        reason.clear();
+        if (readControllerState(replaced(whole, path, value).toObject(), &state, &reason) || !isNumber)
+            break;
+    }
+    if (reason.isEmpty())
+        reason = apply(state);
+    if (!reason.isEmpty())
+        emit refused(reason);
+    refresh();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QStandardItemModel>
+
+#include <functional>
+
+struct ControllerState;
+class SimulatedController;
+
+/**
+ * The simulated controller's state as an editable tree of names and values. It follows the controller; values that
+ * differ from those at the last markFromNow() are bold and have a star. GUI thread only; does not own the controller.
+ */
+class ControllerModel : public QStandardItemModel
+{
+    Q_OBJECT
+
+public:
+    /** Puts an edited state in force; returns why not, or an empty text. */
+    using Apply = std::function<QString(const ControllerState&)>;
+
+    ControllerModel(SimulatedController* controller, Apply apply);
+
+    /** The name of the value at \a index, such as "protocol". */
+    static QString nameOf(const QModelIndex& index) { return index.siblingAtColumn(0).data(Qt::UserRole).toString(); }
+
+public slots:
+    /** Marks only what changes from now on. */
+    void markFromNow();
+
+signals:
+    /** An edited value was not taken; \a reason names it. */
+    void refused(const QString& reason);
+
+private:
+    void refresh();
+    void show(QStandardItem* parent, const QJsonValue& value, const QJsonValue& before);
+    void showEntry(QStandardItem* parent, int row, const QString& name, const QJsonValue& value,
+                   const QJsonValue& before);
+    void take(const QStandardItem* item);
+
+    SimulatedController* controller;
+    Apply apply;
+    QJsonValue marked;
+    bool isRefreshing = false;
+};

@@ -1,0 +1,85 @@
+#include "Recording.h"
+
+#include "VersionInfo.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+namespace {
+
+/** Latin-1 of the wire as UTF-8 on one line. */
+QByteArray escaped(const QByteArray& text)
+{
+    return QString::fromLatin1(text).replace('\\', "\\\\").replace('\n', "\\n").toUtf8();
+}
+
+QByteArray unescaped(const QString& text)
+{
+    QByteArray bytes = text.toLatin1();
+    for (int i = bytes.indexOf('\\'); i >= 0; i = bytes.indexOf('\\', i + 1))
+        bytes.replace(i, 2, bytes.mid(i + 1, 1) == "n" ? "\n" : "\\");
+    return bytes;
+}
+
+bool isVersion(const QString& text)
+{
+    bool isOne = false;
+    VersionInfo(0, 0, 0).fromString(text, &isOne);
+    return isOne;
+}
+
+/** Reads one line; a null reason when it is whole. */
+QString readLine(const QString& line, CommandRecord* record)
+{
+    static const QRegularExpression form(R"(^(\S+) (\S+) (.*?)( ->(?: (.*))?| failed)$)");
+    static const QByteArrayList operations = {"connect", "send", "get", "int", "double", "bool", "set"};
+    const QRegularExpressionMatch match = form.match(line);
+    if (!match.hasMatch())
+        return R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";
+    bool isTime = false;
+    match.captured(1).toDouble(&isTime);
+    if (!isTime)
+        return QString("seconds are expected, \"%1\" is found").arg(match.captured(1));
+    if (!operations.contains(match.captured(2).toLatin1()))
+        return QString("unknown operation \"%1\"").arg(match.captured(2));
+    if (match.captured(2) == "connect" && !isVersion(match.captured(3).section(' ', 0, 0)))
+        return "a protocol version such as 1.23.0 is expected behind \"connect\"";
+    *record = {match.captured(2).toLatin1(), unescaped(match.captured(3)), unescaped(match.captured(5)),
+               match.captured(4) == " failed" ? -1 : 0};
+    return {};
+}
+
+} // namespace
+
+QByteArray toLine(const CommandRecord& record, qint64 milliseconds)
+{
+    const QByteArray seconds = QByteArray::number(static_cast<double>(milliseconds) / 1000.0, 'f', 3);
+    return seconds + ' ' + record.operation + ' ' + escaped(record.command)
+           + (record.result == 0 ? " -> " + escaped(record.answer) : " failed") + '\n';
+}
+
+bool readRecording(const QString& file, QVector<RecordedCommand>* commands, QString* error)
+{
+    QFile input(file);
+    if (!input.open(QIODevice::ReadOnly)) {
+        *error = file + ": " + input.errorString();
+        return false;
+    }
+    const QStringList lines = QString::fromUtf8(input.readAll()).split('\n');
+    QString reason = lines.first() + '\n' == recordingHeader ? QString() : "this is no recording";
+    int line = 1;
+    for (; reason.isEmpty() && line < lines.size(); ++line) {
+        const QString& text = lines.at(line);
+        CommandRecord record;
+        if (text.isEmpty() || text.startsWith('#'))
+            continue;
+        reason = readLine(text, &record);
+        commands->append({record, line + 1});
+    }
+    if (reason.isEmpty() && (commands->isEmpty() || commands->first().record.operation != "connect"))
+        reason = "it does not begin with a \"connect\"";
+    if (reason.isEmpty())
+        return true;
+    *error = QString("%1:%2: %3").arg(file).arg(line).arg(reason);
+    return false;
+}

@@ -1,0 +1,196 @@
+#include "Workbench.h"
+
+#include "ChoiceDelegate.h"
+#include "DevelopmentHost.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTreeView>
+
+namespace {
+
+constexpr int nameColumnWidth = 220; // pixels
+constexpr QSize initialSize(860, 560);
+
+} // namespace
+
+Workbench::Workbench(DevelopmentHost* host)
+    : host(host),
+      controller(&host->controller, [host](const ControllerState& state) { return host->changeState(state); }),
+      message(new QLabel)
+{
+    setWindowTitle(tr("Workbench"));
+    setWindowIcon(host->window.windowIcon());
+    resize(initialSize);
+    auto* tabs = new QTabWidget;
+    tabs->addTab(createCommands(), tr("&Commands"));
+    tabs->addTab(createReports(), tr("&Reports"));
+    tabs->addTab(createController(), tr("C&ontroller"));
+    message->setTextFormat(Qt::PlainText);
+    message->setWordWrap(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(tabs);
+    layout->addWidget(message);
+
+    connect(&host->channel, &ControllerChannel::executed, this, [this](const CommandRecord& record) {
+        // Each opening begins with it.
+        if (record.command == "synccard available")
+            controller.markFromNow();
+        commands.append(record);
+    });
+    connect(&host->channel, &ControllerChannel::reported, &reports, &ReportModel::add);
+    connect(&host->replay, &Replay::differed, this, &Workbench::say);
+    connect(&controller, &ControllerModel::refused, this, &Workbench::say);
+    connect(&host->window, &MainWindow::workbenchWanted, this, [this] {
+        show();
+        raise();
+        activateWindow();
+    });
+}
+
+void Workbench::say(const QString& text)
+{
+    message->setText(text);
+}
+
+QTableView* Workbench::createTable(QAbstractItemModel* model, const QString& name)
+{
+    auto* table = new QTableView;
+    table->setModel(model);
+    table->setAccessibleName(name);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setTabKeyNavigation(false); // Tab leaves the table
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    return table;
+}
+
+QWidget* Workbench::createCommands()
+{
+    shownCommands.setSourceModel(&commands);
+    shownCommands.setFilterKeyColumn(-1);
+    shownCommands.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    QTableView* table = createTable(&shownCommands, tr("Commands"));
+    table->horizontalHeader()->setSectionResizeMode(CommandModel::CommandColumn, QHeaderView::Stretch);
+    // It follows the newest row as long as that is in sight.
+    connect(&shownCommands, &QAbstractItemModel::rowsAboutToBeInserted, table, [table] {
+        const QScrollBar* bar = table->verticalScrollBar();
+        if (bar->value() == bar->maximum())
+            QMetaObject::invokeMethod(table, "scrollToBottom", Qt::QueuedConnection);
+    });
+    auto* filter = new QLineEdit;
+    filter->setClearButtonEnabled(true);
+    connect(filter, &QLineEdit::textChanged, &shownCommands, &QSortFilterProxyModel::setFilterFixedString);
+    auto* filterLabel = new QLabel(tr("Fi&lter"));
+    filterLabel->setBuddy(filter);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(filterLabel);
+    buttons->addWidget(filter);
+    const auto addButton = [&](const QString& text, auto slot) {
+        auto* button = new QPushButton(text);
+        connect(button, &QPushButton::clicked, this, slot);
+        buttons->addWidget(button);
+    };
+    addButton(tr("Co&py"), [this] { copyCommands(); });
+    addButton(tr("&Save..."), [this] { saveCommands(); });
+    addButton(tr("Cl&ear"), [this] { commands.clear(); });
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    layout->addLayout(buttons);
+    layout->addWidget(table);
+    layout->addWidget(createFaults());
+    return pane;
+}
+
+QWidget* Workbench::createFaults()
+{
+    auto* count = new QSpinBox;
+    count->setRange(0, 1000);
+    count->setSpecialValueText(tr("none"));
+    connect(count, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int n) { host->faults.failNth(n); });
+    connect(&host->channel, &ControllerChannel::executed, count, [this, count] {
+        const QSignalBlocker blocker(count);
+        count->setValue(host->faults.commandsToFailure());
+    });
+    auto* pattern = new QLineEdit(host->faults.failing().pattern());
+    pattern->setPlaceholderText(tr("regular expression, such as output_delay.*ch02"));
+    connect(pattern, &QLineEdit::textChanged, this, [this](const QString& text) {
+        const QRegularExpression expression(text);
+        say(expression.isValid() ? QString() : tr("No regular expression: %1").arg(expression.errorString()));
+        if (expression.isValid())
+            host->faults.failMatching(expression);
+    });
+    auto* latency = new QSpinBox;
+    latency->setRange(0, Faults::maximumLatency);
+    latency->setSingleStep(100);
+    latency->setSuffix(tr(" ms"));
+    latency->setValue(host->faults.latency());
+    connect(latency, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            [this](int milliseconds) { host->faults.setLatency(milliseconds); });
+    auto* pane = new QWidget;
+    auto* layout = new QFormLayout(pane);
+    layout->setContentsMargins({});
+    layout->addRow(tr("Fail the &n-th command from now"), count);
+    layout->addRow(tr("Fail commands that &match"), pattern);
+    layout->addRow(tr("Each command &takes longer by"), latency);
+    return pane;
+}
+
+QWidget* Workbench::createReports()
+{
+    QTableView* table = createTable(&reports, tr("Error reports"));
+    table->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
+    return table;
+}
+
+QWidget* Workbench::createController()
+{
+    auto* tree = new QTreeView;
+    tree->setModel(&controller);
+    tree->setAccessibleName(tr("Simulated controller"));
+    tree->setItemDelegateForColumn(1, new ChoiceDelegate(tree));
+    tree->setColumnWidth(0, nameColumnWidth);
+    tree->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
+                          | QAbstractItemView::AnyKeyPressed);
+    tree->setEnabled(!host->isReplaying());
+    return tree;
+}
+
+QString Workbench::commandsText() const
+{
+    QString text;
+    for (int row = 0; row < shownCommands.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < shownCommands.columnCount(); ++column)
+            cells.append(shownCommands.index(row, column).data().toString());
+        text += cells.join('\t') + '\n';
+    }
+    return text;
+}
+
+void Workbench::copyCommands() const
+{
+    QApplication::clipboard()->setText(commandsText());
+}
+
+void Workbench::saveCommands()
+{
+    const QString name = QFileDialog::getSaveFileName(this, tr("Save the commands"), "commands.txt");
+    if (name.isEmpty())
+        return;
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(commandsText().toUtf8()) < 0 || !file.commit())
+        say(name + ": " + file.errorString());
+}
