@@ -5,8 +5,8 @@
 #include <QCommandLineParser>
 
 /**
- * The command line of the host's programs: --help, --version, --controller, --protocol and --plugin, and what a program
- * adds. Errors are one line on standard error.
+ * The command line of the host's programs: --help, --version, --list, --controller, --protocol and --plugin, and what a
+ * program adds. Errors are one line on standard error.
  */
 class HostOptions
 {
@@ -18,7 +18,8 @@ public:
 
     /**
      * Reads the program's arguments, before there is a QApplication: that would take --plugin for its own and needs a
-     * display. False when the program shall end with exitStatus(): 0 after --help and --version, 2 after a mistake.
+     * display. False when the program shall end with exitStatus(): 0 after --help, --version and --list, 2 after a
+     * mistake.
      */
     bool parse(int argc, char* argv[]);
     int exitStatus() const { return status; }
@@ -28,6 +29,9 @@ public:
     /** The built-in controller, or the one that --controller names, with the protocol that --protocol names. */
     const ControllerState& controllerState() const { return state; }
 
+    /** Where the controllers that have a name lie, a file NAME.json each. Needs a QCoreApplication. */
+    static QString controllerFolder();
+
     /** The module's plug-in: the one --plugin names, or the one beside the program. Needs a QCoreApplication. */
     QString pluginFile() const;
 
@@ -36,6 +40,7 @@ public:
 
 private:
     bool end(int exitStatus);
+    static int listControllers();
     bool readController();
     bool readProtocol();
 
