@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 #include <cmath>
 #include <limits>
@@ -120,6 +121,8 @@ public:
     ControllerState readState(const QJsonValue& value, ControllerState state)
     {
         Members members(value, QString(), error);
+        members.read("description", &state.description);
+        members.demand(!state.description.contains(QRegularExpression("\\R")), "description", "one line is expected");
         QString protocol = state.protocol.toString();
         bool isVersion = false;
         members.read("protocol", &protocol);
@@ -127,6 +130,7 @@ public:
         members.demand(isVersion, "protocol", "a version such as \"1.23.0\" is expected");
         members.read("model", &state.model);
         members.read("locked", &state.locked);
+        members.read("refusesSources", &state.refusesSources);
         members.read("input", &state.input);
         members.read("modes", &state.modes, [this](const auto& v, const auto& p) { return readMode(v, p); });
         members.read("activeMode", &state.activeMode);

@@ -100,6 +100,7 @@ QJsonObject ControllerState::toJson() const
     return {{"protocol", protocol.toString()},
             {"model", model},
             {"locked", locked},
+            {"refusesSources", refusesSources},
             {"input", input},
             {"modes", toArray(modes, convert)},
             {"activeMode", activeMode},

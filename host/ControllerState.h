@@ -50,9 +50,12 @@ struct ModeState
 /** Everything the simulated controller knows. */
 struct ControllerState
 {
+    /** One line about the controller for the list of them; no part of what it answers, so not in toJson(). */
+    QString description;
     VersionInfo protocol = VersionInfo(1, 23, 0);
     QString model = "QUILLSTONE 3";
     bool locked = false;
+    bool refusesSources = false; // fails every "set synccard source"
     /** The answer to "synccard input_frequency"; empty when the card has no sync input. */
     QString input = "video 59.940";
     QVector<ModeState> modes;

@@ -66,7 +66,7 @@ bool setActiveMode(Access& a, const QString& value)
 bool setSource(Access& a, const QString& value)
 {
     const SourceState* source = a.card->findSource(value);
-    if (!source)
+    if (!source || a.state->refusesSources)
         return false;
     a.card->source = value;
     a.card->divisor = qMin(a.card->divisor, source->maxDivisor);

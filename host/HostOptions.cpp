@@ -5,6 +5,8 @@
 #include "ModuleLoader.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QMap>
 
 #include <cstdio>
 
@@ -22,7 +24,8 @@ HostOptions::HostOptions(const QString& description)
     parser.setApplicationDescription(description);
     parser.addOption({{"h", "help"}, "Shows this help."});
     parser.addOption({{"v", "version"}, "Shows the version."});
-    parser.addOption({"controller", "Takes the simulated controller from <file> (JSON).", "file"});
+    parser.addOption({"list", "Lists the controllers that have a name."});
+    parser.addOption({"controller", "Simulates <controller>: a name of --list, or a file (JSON).", "controller"});
     parser.addOption({"protocol", "Lets the controller speak protocol <version>, such as 0.12.7 or 1.23.", "version"});
     parser.addOption({"plugin", "Loads the module from <file>.", "file"});
     parser.addOption({"fail", "Fails every command that the regular expression <pattern> is found in.", "pattern"});
@@ -46,18 +49,50 @@ bool HostOptions::parse(int argc, char* argv[])
         say(stdout, QCoreApplication::applicationName() + " " HOST_VERSION "\n");
         return end(0);
     }
+    if (parser.isSet("list"))
+        return end(listControllers());
     host.pluginFile = parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
     host.record = parser.value("record");
     host.replay = parser.value("replay");
     return readController() && readProtocol() && readFaults();
 }
 
+QString HostOptions::controllerFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../" CONTROLLER_DIR);
+}
+
+/** Prints name and description of each controller in the folder, unless one of the files is broken. */
+int HostOptions::listControllers()
+{
+    QMap<QString, QString> descriptions;
+    int width = 0;
+    const QFileInfoList files = QDir(controllerFolder()).entryInfoList({"*.json"}, QDir::Files | QDir::CaseSensitive);
+    for (const QFileInfo& file : files) {
+        ControllerState listed = ControllerState::builtIn();
+        QString error;
+        if (!readControllerFile(file.filePath(), &listed, &error))
+            return fail(error);
+        const QString name = file.completeBaseName();
+        descriptions[name] = listed.description;
+        width = qMax(width, name.size());
+    }
+    for (auto it = descriptions.constBegin(); it != descriptions.constEnd(); ++it)
+        say(stdout, it.key().leftJustified(width) + "  " + it.value() + '\n');
+    return files.isEmpty() ? fail(controllerFolder() + ": no controller files") : 0;
+}
+
 bool HostOptions::readController()
 {
+    if (!parser.isSet("controller"))
+        return true;
+    const QString wanted = parser.value("controller");
+    const bool isName = !wanted.contains('/') && !wanted.endsWith(".json");
+    const QString file = isName ? controllerFolder() + '/' + wanted + ".json" : wanted;
+    if (isName && !QFileInfo::exists(file))
+        return end(fail("--controller " + wanted + ": no such controller, see --list"));
     QString error;
-    if (parser.isSet("controller") && !readControllerFile(parser.value("controller"), &host.state, &error))
-        return end(fail(error));
-    return true;
+    return readControllerFile(file, &host.state, &error) || end(fail(error));
 }
 
 bool HostOptions::readProtocol()

@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
 # usage: installed_host.sh BUILD_TREE PREFIX
-# Installs into an empty prefix and starts the installed host elsewhere: it must load the installed plug-in.
+# Installs into an empty prefix and starts the installed host elsewhere: it must load the installed plug-in, and
+# list the installed controllers, each of which tests/data/controllers.txt knows.
 set -euo pipefail
 build=$(realpath "$1")
+known=$(sed -n 's/^\([^#]*\) ->.*/\1/p' "$(dirname "$0")/data/controllers.txt" | LC_ALL=C sort -u)
 rm -rf "$2"
 mkdir -p "$2"
 prefix=$(realpath "$2")
@@ -13,13 +15,20 @@ fail() {
 }
 
 cmake --install "$build" --prefix "$prefix" >/dev/null
-controller=$prefix/share/synccard-host/controllers/locked.json
-for file in "$prefix/share/applications/synccard-host.desktop" "$controller"; do
-    [ -f "$file" ] || fail "$file is missing"
-done
+desktop=$prefix/share/applications/synccard-host.desktop
+[ -f "$desktop" ] || fail "$desktop is missing"
 
 cd /
-"$prefix/bin/synccard-host" --controller "$controller" &
+list=$("$prefix/bin/synccard-host" --list)
+[ "$(cut -d ' ' -f 1 <<<"$list")" = "$known" ] || fail "expected the controllers $known, found $list"
+grep -qxF 'locked           The configuration is locked' <<<"$list" || fail "expected locked in a row, found $list"
+broken=$prefix/share/synccard-host/controllers/broken.json
+echo '{"description": "a", "locked": 1}' >"$broken"
+status=0
+said=$("$prefix/bin/synccard-host" --list 2>&1) || status=$?
+[ "$status $said" = "2 synccard-host: $broken: locked: true or false is expected" ] || fail "$status $said"
+
+"$prefix/bin/synccard-host" --controller locked &
 host=$!
 trap 'kill $host 2>/dev/null || true' EXIT
 for ((tries = 0; tries < 300; ++tries)); do

@@ -1,5 +1,7 @@
+#include "Bench.h"
 #include "ControllerFile.h"
 #include "DevelopmentHost.h"
+#include "HostOptions.h"
 #include "ReportModel.h"
 #include "StateDifference.h"
 
@@ -26,6 +28,8 @@ private slots:
     void readsControllerFiles_data();
     void readsControllerFiles();
     void namesWhatIsWrong();
+    void opensControllers_data();
+    void opensControllers();
     void placesTheEntry();
     void countsReports();
 };
@@ -159,10 +163,13 @@ void TestHost::namesWhatIsWrong()
     const QMap<QString, QString> lines = {
         {"--help", ""},
         {"--version", ""},
+        {"--list", ""},
         {"--colour", "Unknown option 'colour'. See --help."},
         {"x", "Unexpected argument 'x'. See --help."},
         {"--protocol=1", "--protocol 1: a version such as 1.23 or 1.23.0 is expected"},
-        {"--controller=/none.json", "/none.json: No such file or directory"},
+        {"--controller=/none", "/none: No such file or directory"},
+        {"--controller=none", "--controller none: no such controller, see --list"},
+        {"--controller=none.json", "none.json: No such file or directory"},
         {"--plugin=/none.so", "/none.so" + noModule + "no such file"},
         {"--plugin=" HOST_PROGRAM, HOST_PROGRAM + noModule + "no Qt plug-in"},
         {"--plugin=" OTHER_PLUGIN, OTHER_PLUGIN + noModule + "\"org.example.Other\""},
@@ -175,6 +182,35 @@ void TestHost::namesWhatIsWrong()
         const QString expected = line.value().isEmpty() ? QString() : "synccard-host: " + line.value() + '\n';
         QCOMPARE(QString(host.readAllStandardError()), expected);
     }
+}
+
+void TestHost::opensControllers_data()
+{
+    addRows("controllers.txt");
+}
+
+/** What a controller of the list shows in its dialog, or answers to a set. */
+void TestHost::opensControllers()
+{
+    QFETCH(QByteArray, left);
+    QFETCH(QByteArray, right);
+    failOnWarnings();
+    const QByteArray asked = right.left(right.indexOf(':'));
+    HostSetup wanted = setup();
+    QString seen;
+    QVERIFY2(readControllerFile(HostOptions::controllerFolder() + '/' + left + ".json", &wanted.state, &seen),
+             qPrintable(seen));
+    DevelopmentHost host(wanted);
+    QVERIFY2(host.start(), qPrintable(host.errorString()));
+    const DialogUser user(qobject_cast<QDialog*>(host.loader.module()->get_gui_elements().first()->content));
+    const auto open = [&] { QMetaObject::invokeMethod(user.dialog(), "update_and_exec"); };
+    const auto look = [&] {
+        const bool isTaken = host.controller.execute("zorvan2 " + asked).ok;
+        seen = asked.startsWith("set") ? (isTaken ? "ok" : "failed") : textOfWidget(user.find<QWidget>(asked));
+        user.leave("Escape");
+    };
+    QCOMPARE(user.openBy(open, look), DialogUser::Closed);
+    QCOMPARE(asked + ": " + seen.toUtf8(), right);
 }
 
 void TestHost::placesTheEntry()
