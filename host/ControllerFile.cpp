@@ -135,6 +135,7 @@ public:
         members.read("modes", &state.modes, [this](const auto& v, const auto& p) { return readMode(v, p); });
         members.read("activeMode", &state.activeMode);
         members.read("cards", &state.cards, [this](const auto& v, const auto& p) { return readCard(v, p); });
+        members.read("cardsPresent", &state.cardsPresent);
         members.demand(state.activeMode == "none" || state.hasMode(state.activeMode), "activeMode",
                        "neither \"none\" nor one of the modes");
         members.finish();

@@ -123,7 +123,6 @@ void ControllerModel::take(const QStandardItem* item)
     }
     if (reason.isEmpty())
         reason = apply(state);
-    if (!reason.isEmpty())
-        emit refused(reason);
+    emit edited(reason);
     refresh();
 }

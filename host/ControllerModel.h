@@ -30,8 +30,8 @@ public slots:
     void markFromNow();
 
 signals:
-    /** An edited value was not taken; \a reason names it. */
-    void refused(const QString& reason);
+    /** A value was edited; \a problem says why it was not taken, and is empty if it was. */
+    void edited(const QString& problem);
 
 private:
     void refresh();

@@ -104,5 +104,6 @@ QJsonObject ControllerState::toJson() const
             {"input", input},
             {"modes", toArray(modes, convert)},
             {"activeMode", activeMode},
-            {"cards", toArray(cards, convert)}};
+            {"cards", toArray(cards, convert)},
+            {"cardsPresent", cardsPresent}};
 }

@@ -61,6 +61,8 @@ struct ControllerState
     QVector<ModeState> modes;
     QString activeMode = "none";
     QVector<CardState> cards;
+    /** Whether the cards are there at all. */
+    bool cardsPresent = true;
 
     /** Two cards, four channels, four modes, direct settings, all five sources, a video signal on the input. */
     static ControllerState builtIn();

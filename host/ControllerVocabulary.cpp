@@ -124,7 +124,7 @@ constexpr ProtocolGate outputs{1, 23};
 // clang-format off
 const Parameter parameters[] = {
     {"config is_changeable", "", configLock, [](const Access& a) { return flag(!a.state->locked); }, nullptr},
-    {"synccard available", "", modes, [](const Access& a) { return flag(!a.state->cards.isEmpty()); }, nullptr},
+    {"synccard available", "", modes, [](const Access& a) { return flag(a.state->cardsPresent && !a.state->cards.isEmpty()); }, nullptr},
     {"synccard has_input_frequency", "", modes, [](const Access& a) { return flag(!a.state->input.isEmpty()); }, nullptr},
     {"synccard input_frequency", "", modes, [](const Access& a) { return a.state->input.isEmpty() ? QString() : a.state->input; }, nullptr},
     {"synccard synccard", "", modes, legacyCard, nullptr},

@@ -26,6 +26,7 @@ MainWindow::MainWindow()
     setCentralWidget(hint);
     QMenu* menu = menuBar()->addMenu(tr("Ho&st"));
     measurement = menu->addAction(tr("&Measurement running"), this, &MainWindow::measurementSwitched);
+    measurement->setObjectName("measurement");
     measurement->setCheckable(true);
     measurement->setShortcut(QKeySequence(tr("Ctrl+M")));
     menu->addAction(tr("&Workbench"), this, &MainWindow::workbenchWanted, QKeySequence(tr("Ctrl+B")));

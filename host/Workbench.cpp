@@ -21,6 +21,7 @@
 namespace {
 
 constexpr int nameColumnWidth = 220; // pixels
+constexpr int rowPadding = 6;
 constexpr QSize initialSize(860, 560);
 
 } // namespace
@@ -51,7 +52,7 @@ Workbench::Workbench(DevelopmentHost* host)
     });
     connect(&host->channel, &ControllerChannel::reported, &reports, &ReportModel::add);
     connect(&host->replay, &Replay::differed, this, &Workbench::say);
-    connect(&controller, &ControllerModel::refused, this, &Workbench::say);
+    connect(&controller, &ControllerModel::edited, this, &Workbench::say);
     connect(&host->window, &MainWindow::workbenchWanted, this, [this] {
         show();
         raise();
@@ -64,16 +65,18 @@ void Workbench::say(const QString& text)
     message->setText(text);
 }
 
-QTableView* Workbench::createTable(QAbstractItemModel* model, const QString& name)
+QTableView* Workbench::createTable(QAbstractItemModel* model, const char* objectName, const QString& name)
 {
     auto* table = new QTableView;
     table->setModel(model);
+    table->setObjectName(objectName);
     table->setAccessibleName(name);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setTabKeyNavigation(false); // Tab leaves the table
     table->setWordWrap(false);
     table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + rowPadding);
     return table;
 }
 
@@ -82,7 +85,7 @@ QWidget* Workbench::createCommands()
     shownCommands.setSourceModel(&commands);
     shownCommands.setFilterKeyColumn(-1);
     shownCommands.setFilterCaseSensitivity(Qt::CaseInsensitive);
-    QTableView* table = createTable(&shownCommands, tr("Commands"));
+    QTableView* table = createTable(&shownCommands, "commands", tr("Commands"));
     table->horizontalHeader()->setSectionResizeMode(CommandModel::CommandColumn, QHeaderView::Stretch);
     // It follows the newest row as long as that is in sight.
     connect(&shownCommands, &QAbstractItemModel::rowsAboutToBeInserted, table, [table] {
@@ -150,7 +153,7 @@ QWidget* Workbench::createFaults()
 
 QWidget* Workbench::createReports()
 {
-    QTableView* table = createTable(&reports, tr("Error reports"));
+    QTableView* table = createTable(&reports, "reports", tr("Error reports"));
     table->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
     return table;
 }
@@ -162,8 +165,12 @@ QWidget* Workbench::createController()
     tree->setAccessibleName(tr("Simulated controller"));
     tree->setItemDelegateForColumn(1, new ChoiceDelegate(tree));
     tree->setColumnWidth(0, nameColumnWidth);
-    tree->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                          | QAbstractItemView::AnyKeyPressed);
+    tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // By a double click or Return, wherever in the row.
+    connect(tree, &QTreeView::activated, tree, [tree](const QModelIndex& index) {
+        if (index.siblingAtColumn(1).flags() & Qt::ItemIsEditable)
+            tree->edit(index.siblingAtColumn(1));
+    });
     tree->setEnabled(!host->isReplaying());
     return tree;
 }

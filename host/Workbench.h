@@ -31,7 +31,7 @@ private:
     QWidget* createFaults();
     QWidget* createReports();
     QWidget* createController();
-    QTableView* createTable(QAbstractItemModel* model, const QString& name);
+    QTableView* createTable(QAbstractItemModel* model, const char* objectName, const QString& name);
     void copyCommands() const;
     void saveCommands();
     /** The commands shown, a line each with tabs between the columns. */

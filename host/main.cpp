@@ -3,6 +3,15 @@
 #include "Workbench.h"
 
 #include <QApplication>
+#include <QScreen>
+
+namespace {
+
+constexpr int margin = 40; // pixels
+constexpr int besideDialog = 480;
+constexpr int aboveMain = 220;
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -19,9 +28,11 @@ int main(int argc, char* argv[])
     QObject::connect(&host.replay, &Replay::differed, &HostOptions::fail);
     if (!host.start())
         return HostOptions::fail(host.errorString());
-    host.window.show();
-    workbench.move(host.window.frameGeometry().topRight());
+    // Side by side, with room for the dialog, which opens over the main window.
+    const QPoint corner = QGuiApplication::primaryScreen()->availableGeometry().topLeft() + QPoint(margin, margin);
+    workbench.move(corner + QPoint(besideDialog, 0));
     workbench.show();
-    host.window.activateWindow();
+    host.window.move(corner + QPoint(0, aboveMain));
+    host.window.show();
     return QApplication::exec();
 }

@@ -17,7 +17,7 @@ SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
     : QDialog(p), cm(cmd), beVers(bv), m_parent(p), doubleSpinboxDelegate(nullptr)
 {
     setupUi(this);
-    m_icon_lock.addFile(QStringLiteral(":/lock.png"));
+    m_icon_lock.addFile(QLatin1String(":/lock.png"));
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     // They show what the controller sends, which may look like markup.
     label_inputSource->setTextFormat(Qt::PlainText);

@@ -97,7 +97,8 @@ bool SynccardDialog::add_card(int number)
 
     auto* modelItem = new QTableWidgetItem(description.text().remove(QLatin1Char('"')));
     modelItem->setData(Qt::UserRole, model);
-    auto* serialItem = new QTableWidgetItem(hasSerial ? serial : QStringLiteral("-"));
+    // No QStringLiteral: its text lies in the plug-in, and the style keeps what it painted last beyond unloading.
+    auto* serialItem = new QTableWidgetItem(hasSerial ? serial : QString(QLatin1Char('-')));
     serialItem->setTextAlignment(Qt::AlignCenter);
     serialItem->setData(Qt::UserRole, serialNumber);
     tableWidget_synccards->insertRow(0);

@@ -46,12 +46,12 @@ int SynccardDialog::update_comboBox_modes()
     if (!list_modes())
         return -1;
     if (isProtocolAtLeast(1, 2))
-        comboBox_modes->addItem(tr("direct settings"), QStringLiteral("direct settings"));
+        comboBox_modes->addItem(tr("direct settings"), QLatin1String("direct settings"));
     QString mode;
     if (!read_active_mode(&mode))
         return -1;
     if (mode == QLatin1String("none"))
-        mode = QStringLiteral("direct settings");
+        mode = QLatin1String("direct settings");
     comboBox_modes->setCurrentIndex(comboBox_modes->findData(mode));
     return 0;
 }
