@@ -27,7 +27,7 @@ ControllerLink* lowest(const HostSetup& setup, SimulatedController* controller, 
 DevelopmentHost::DevelopmentHost(const HostSetup& setup)
     : setup(setup), controller(setup.state), replay(setup.replay), faults(lowest(setup, &controller, &replay)),
       recorder(&faults), channel(&recorder), versions({1, 0, 0}, setup.state.protocol, {1, 0, 0}, setup.state.model),
-      loader(setup.pluginFile)
+      loader(setup.pluginFile.isEmpty() ? ModuleLoader::defaultFile() : setup.pluginFile)
 {
     faults.failMatching(setup.failing);
     faults.setLatency(setup.latency);

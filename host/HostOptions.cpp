@@ -2,7 +2,6 @@
 
 #include "ControllerFile.h"
 #include "Faults.h"
-#include "ModuleLoader.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -51,7 +50,7 @@ bool HostOptions::parse(int argc, char* argv[])
     }
     if (parser.isSet("list"))
         return end(listControllers());
-    host.pluginFile = parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
+    host.pluginFile = parser.value("plugin");
     host.record = parser.value("record");
     host.replay = parser.value("replay");
     return readController() && readProtocol() && readFaults();

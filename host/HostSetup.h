@@ -8,7 +8,7 @@
 struct HostSetup
 {
     ControllerState state = ControllerState::builtIn();
-    QString pluginFile;
+    QString pluginFile;         // if empty, the one beside the program
     QString record;             // file to write, if any
     QString replay;             // file to answer from instead of the simulated controller, if any
     QRegularExpression failing; // commands that fail

@@ -4,16 +4,14 @@
 #include <QDoubleSpinBox>
 #include <QTableWidget>
 
-/** What the dialog does over time: polling, reopening, locking, editing, dying. */
+/** What the dialog does over time: polling, reopening, editing. */
 class TestDialog : public QObject
 {
     Q_OBJECT
 
 private slots:
     void pollsEachSecondWhileOpen();
-    void showsTheLock();
     void refusesASecondOpening();
-    void opensWithoutHostObjects();
     void editsDelays();
 };
 
@@ -40,22 +38,6 @@ void TestDialog::pollsEachSecondWhileOpen()
     QCOMPARE(bench.channel.commands, {});
 }
 
-/** The lock icon stands in for the parent's while the configuration is locked. */
-void TestDialog::showsTheLock()
-{
-    Bench bench;
-    QPixmap pixmap(16, 16);
-    pixmap.fill(Qt::red);
-    bench.parent->setWindowIcon(pixmap);
-    const qint64 parentIcon = bench.parent->windowIcon().cacheKey();
-    bench.channel.script("config is_changeable=no");
-    bench.look();
-    QVERIFY(bench.dialog()->windowIcon().cacheKey() != parentIcon);
-    bench.channel.script("config is_changeable=yes");
-    bench.look();
-    QCOMPARE(bench.dialog()->windowIcon().cacheKey(), parentIcon);
-}
-
 void TestDialog::refusesASecondOpening()
 {
     Bench bench;
@@ -69,21 +51,6 @@ void TestDialog::refusesASecondOpening()
         QCOMPARE(bench.channel.commands, {});
         bench.user().leave("Escape");
     });
-}
-
-/** A host that hands over nothing gets a dialog as without a synccard. */
-void TestDialog::opensWithoutHostObjects()
-{
-    Bench bench;
-    bench.loader.module()->exit_module();
-    bench.loader.setParameters(nullptr, nullptr, nullptr, true);
-    QVERIFY(bench.loader.module()->get_gui_elements().first()->menu_entry);
-    const int result = bench.open([&] {
-        QVERIFY(bench.dialog()->windowIcon().isNull() && !bench.see("label_error").endsWith(" hidden"));
-        bench.user().leave("Escape");
-    });
-    QCOMPARE(result, int(QDialog::Rejected));
-    QCOMPARE(bench.channel.commands, {});
 }
 
 /** The delay editor offers whole microseconds up to the maximum; Return commits, Escape does not. */

@@ -20,7 +20,6 @@ private slots:
     void survivesEachFailure_data() { addSessions("failures.txt"); }
     void survivesEachFailure();
     void survivesGarbage();
-    void survivesTheHost_data();
     void survivesTheHost();
 };
 
@@ -226,40 +225,32 @@ void TestFaults::survivesGarbage()
     QVERIFY2(channel.written > openings / 2, qPrintable(QString::number(channel.written)));
 }
 
-void TestFaults::survivesTheHost_data()
-{
-    QTest::addColumn<bool>("deletesParent");
-    QTest::addColumn<bool>("inBox");
-    QTest::newRow("parent deleted") << true << false;
-    QTest::newRow("parent deleted below the warning") << true << true;
-    QTest::newRow("module ended") << false << false;
-    QTest::newRow("module ended below the warning") << false << true;
-}
-
-/** The dialog may die while it is open, and while the warning box is: then nothing more is sent. */
+/** The dialog may die with its parent or its module while it is open, and while the warning is: nothing more is sent.
+ */
 void TestFaults::survivesTheHost()
 {
-    QFETCH(bool, deletesParent);
-    QFETCH(bool, inBox);
-    Bench bench("1.23", "set synccard active_mode none=!");
-    const auto interfere = [&] {
-        if (deletesParent)
-            delete bench.parent;
-        else
-            bench.loader.module()->exit_module();
-    };
-    bench.open([&] {
-        bench.user().clickCell(1, 2);
-        bench.channel.takeCommands();
-        if (!inBox)
-            return interfere();
-        bench.insteadOfClosingBox = interfere;
-        bench.user().leave("OK");
-    });
-    QCOMPARE(bench.channel.commands.join(), QByteArray(inBox ? "set synccard active_mode none" : ""));
-    QVERIFY(!bench.element->content);
-    bench.loader.module()->exit_module();
-    bench.loader.module()->exit_module();
+    for (const int kind : {0, 1, 2, 3}) {
+        const bool isInBox = kind % 2 == 0;
+        Bench bench("1.23", "set synccard active_mode none=!");
+        const auto interfere = [&] {
+            if (kind < 2)
+                delete bench.parent;
+            else
+                bench.loader.module()->exit_module();
+        };
+        bench.open([&] {
+            bench.user().clickCell(1, 2);
+            bench.channel.takeCommands();
+            if (!isInBox)
+                return interfere();
+            bench.insteadOfClosingBox = interfere;
+            bench.user().leave("OK");
+        });
+        QCOMPARE(bench.channel.commands.join(), QByteArray(isInBox ? "set synccard active_mode none" : ""));
+        QVERIFY(!bench.element->content);
+        bench.loader.module()->exit_module();
+        bench.loader.module()->exit_module();
+    }
 }
 
 QTEST_MAIN(TestFaults)

@@ -2,7 +2,6 @@
 #include "ControllerFile.h"
 #include "DevelopmentHost.h"
 #include "HostOptions.h"
-#include "ReportModel.h"
 #include "StateDifference.h"
 
 #include <QJsonArray>
@@ -31,15 +30,7 @@ private slots:
     void opensControllers_data();
     void opensControllers();
     void placesTheEntry();
-    void countsReports();
 };
-
-HostSetup setup()
-{
-    HostSetup result;
-    result.pluginFile = ModuleLoader::defaultFile();
-    return result;
-}
 
 /** Rows of two texts from a file of tests/data: "left -> right". */
 void addRows(const char* name)
@@ -196,7 +187,7 @@ void TestHost::opensControllers()
     QFETCH(QByteArray, right);
     failOnWarnings();
     const QByteArray asked = right.left(right.indexOf(':'));
-    HostSetup wanted = setup();
+    HostSetup wanted;
     QString seen;
     QVERIFY2(readControllerFile(HostOptions::controllerFolder() + '/' + left + ".json", &wanted.state, &seen),
              qPrintable(seen));
@@ -215,7 +206,7 @@ void TestHost::opensControllers()
 
 void TestHost::placesTheEntry()
 {
-    DevelopmentHost host(setup());
+    DevelopmentHost host{HostSetup()};
     QMenuBar* bar = host.window.menuBar();
     bar->addMenu("Late")->menuAction()->setProperty("orderNumber", 300);
     QVERIFY2(host.start(), qPrintable(host.errorString()));
@@ -224,16 +215,6 @@ void TestHost::placesTheEntry()
     for (const QAction* action : actions)
         titles.append(action->text());
     QCOMPARE(titles.indexOf("H&ardware") + 1, titles.indexOf("Late"));
-    QVERIFY(QIcon(":/lock.png").availableSizes().contains(QSize(48, 48)));
-}
-
-void TestHost::countsReports()
-{
-    ReportModel reports;
-    for (const char* message : {"a", "b", "a"})
-        reports.add("standard", "ZORVAN3", 1, message);
-    QCOMPARE(reports.rowCount(), 2);
-    QCOMPARE(reports.item(0, 4)->text() + reports.item(1, 4)->text(), "21");
 }
 
 QTEST_MAIN(TestHost)

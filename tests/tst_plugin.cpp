@@ -138,7 +138,7 @@ void TestPlugin::offersOneEntry()
     QVERIFY(!action);
 }
 
-/** Keys are exact; a value that cannot be converted counts as none. */
+/** Keys are exact; a value that cannot be converted counts as none, and without any there is no synccard. */
 void TestPlugin::takesParameters()
 {
     Bench bench;
@@ -151,9 +151,13 @@ void TestPlugin::takesParameters()
     bench.look();
     QVERIFY(!bench.channel.takeCommands().isEmpty());
     module->exit_module();
+    bench.loader.setParameters(&bench.channel, nullptr, nullptr, true);
     module->set_param("CommandManager", "no channel");
     module->get_gui_elements();
-    bench.look();
+    bench.open([&] {
+        QVERIFY(bench.dialog()->windowIcon().isNull() && !bench.see("label_error").endsWith(" hidden"));
+        bench.user().leave("Escape");
+    });
     QCOMPARE(bench.channel.commands, {});
 }
 

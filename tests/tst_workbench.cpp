@@ -30,7 +30,6 @@ namespace {
 HostSetup setup(const QString& record = QString(), const QString& replay = QString())
 {
     HostSetup result;
-    result.pluginFile = ModuleLoader::defaultFile();
     result.record = record;
     result.replay = replay;
     return result;
@@ -46,8 +45,20 @@ void open(DevelopmentHost& host, const std::function<void(const DialogUser&)>& s
           DialogUser::Outcome expected = DialogUser::Closed)
 {
     host.window.show();
+    host.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&host.window));
     const DialogUser user(qobject_cast<QDialog*>(element(host)->content));
     QCOMPARE(user.openBy([&] { element(host)->menu_entry->trigger(); }, [&] { steps(user); }), expected);
+}
+
+QList<QSize> iconSizes(DevelopmentHost& host)
+{
+    QList<QSize> sizes;
+    open(host, [&](const DialogUser& user) {
+        sizes = user.dialog()->windowIcon().availableSizes();
+        user.leave("Escape");
+    });
+    return sizes;
 }
 
 void raiseFrequency(const DialogUser& user)
@@ -184,11 +195,13 @@ void TestWorkbench::editsTheController()
         return item->text() + ' ' + item->index().siblingAtColumn(1).data().toString() + ' ' + problem;
     };
     QCOMPARE(edit("locked", true), "locked * true ");
+    QCOMPARE(iconSizes(host), {QSize(48, 48)});
     QCOMPARE(edit("frequency", "75.5"), "frequency * 75.5 ");
     QCOMPARE(edit("divisor", "x"), "divisor 1 cards[0].divisor: a number from 1 to 100 is expected");
     QCOMPARE(host.controller.state().cards.first().frequency, 75.5);
     model.markFromNow();
     QCOMPARE(edit("locked", false), "locked * false ");
+    QCOMPARE(iconSizes(host), host.window.windowIcon().availableSizes());
     QCOMPARE(edit("protocol", "1.10"), "protocol * 1.10.0 ");
     QCOMPARE(host.versions.protocol(), VersionInfo(1, 10, 0));
     QVERIFY(host.controller.execute("zorvan2 set synccard source d01 video").ok);
@@ -226,10 +239,12 @@ void TestWorkbench::staysUsableBesideTheDialog()
         QVERIFY(host.window.isVisible());
         user.leave("Escape");
     });
+    open(host, [](const DialogUser& user) { user.leave("Escape"); });
     QCOMPARE(rows("reports"), 4);
+    QCOMPARE(workbench.findChild<QTableView*>("reports")->model()->index(3, 4).data().toString(), "2");
     const int all = rows("commands");
     QTest::keyClicks(workbench.findChild<QLineEdit*>(), "FAILED");
-    QVERIFY(all > 40 && rows("commands") == 4);
+    QVERIFY(all > 40 && rows("commands") == 7);
     auto* measurement = host.window.findChild<QAction*>("measurement");
     measurement->trigger();
     QVERIFY(!element(host)->menu_entry->isEnabled());
