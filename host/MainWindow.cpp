@@ -31,7 +31,7 @@ MainWindow::MainWindow()
     measurement->setShortcut(QKeySequence(tr("Ctrl+M")));
     menu->addAction(tr("&Workbench"), this, &MainWindow::workbenchWanted, QKeySequence(tr("Ctrl+B")));
     menu->addSeparator();
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
 }
 
 bool MainWindow::isMeasurementRunning() const

@@ -5,7 +5,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 
-/** A layer that writes each command with its answer, a line each, into a recording; docs/recordings.md tells how. */
+/** A layer that writes each command with its answer, a line each, into a recording; docs/workbench.md tells how. */
 class Recorder : public ControllerLink
 {
 public:

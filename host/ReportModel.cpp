@@ -2,12 +2,6 @@
 
 #include <QTime>
 
-namespace {
-
-enum Column { CategoryColumn, TagColumn, FlagColumn, MessageColumn, CountColumn, TimeColumn };
-
-} // namespace
-
 ReportModel::ReportModel()
 {
     setHorizontalHeaderLabels({tr("Category"), tr("Tag"), tr("Flag"), tr("Message"), tr("Count"), tr("Last time")});

@@ -8,6 +8,8 @@ class ReportModel : public QStandardItemModel
     Q_OBJECT
 
 public:
+    enum Column { CategoryColumn, TagColumn, FlagColumn, MessageColumn, CountColumn, TimeColumn };
+
     ReportModel();
 
 public slots:

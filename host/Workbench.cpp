@@ -22,7 +22,8 @@ namespace {
 
 constexpr int nameColumnWidth = 220; // pixels
 constexpr int rowPadding = 6;
-constexpr QSize initialSize(860, 560);
+constexpr int columnPadding = 24;
+constexpr QSize initialSize(960, 560);
 
 } // namespace
 
@@ -87,6 +88,13 @@ QWidget* Workbench::createCommands()
     shownCommands.setFilterCaseSensitivity(Qt::CaseInsensitive);
     QTableView* table = createTable(&shownCommands, "commands", tr("Commands"));
     table->horizontalHeader()->setSectionResizeMode(CommandModel::CommandColumn, QHeaderView::Stretch);
+    const QMap<int, const char*> widest = {{CommandModel::TimeColumn, "00:00:00.000"},
+                                           {CommandModel::OperationColumn, "Operation"},
+                                           {CommandModel::AnswerColumn, "ttl - \"signal too slow\""},
+                                           {CommandModel::ResultColumn, "failed (-1)"},
+                                           {CommandModel::DurationColumn, "5000.000 ms"}};
+    for (auto sample = widest.begin(); sample != widest.end(); ++sample)
+        table->setColumnWidth(sample.key(), table->fontMetrics().boundingRect(sample.value()).width() + columnPadding);
     // It follows the newest row as long as that is in sight.
     connect(&shownCommands, &QAbstractItemModel::rowsAboutToBeInserted, table, [table] {
         const QScrollBar* bar = table->verticalScrollBar();
@@ -154,7 +162,8 @@ QWidget* Workbench::createFaults()
 QWidget* Workbench::createReports()
 {
     QTableView* table = createTable(&reports, "reports", tr("Error reports"));
-    table->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setSectionResizeMode(ReportModel::MessageColumn, QHeaderView::Stretch);
     return table;
 }
 

@@ -80,7 +80,6 @@ bool Tour::run()
 
 void Tour::raiseFrequency()
 {
-    takePicture(&host.window, "host");
     visit("Raise the internal frequency, OK", [this] {
         demand(!initial.cards.isEmpty(), "the tour needs a controller with a synccard");
         demand(!initial.locked, "the tour needs a controller that is not locked");
