@@ -64,7 +64,7 @@ int Comparison::commandsOf(const Steps& steps) const
     return channel.commands - before;
 }
 
-QString Comparison::difference()
+QString Comparison::difference() const
 {
     QStringList moduleLines;
     QStringList bareLines;

@@ -34,7 +34,7 @@ public:
     int commandsOf(const Steps& steps) const;
 
     /** Why the two cannot be compared: a line that both show differently, a picture; empty when they are the same. */
-    QString difference();
+    QString difference() const;
 
     WorkloadChannel channel;
     QDialog* module = nullptr;

@@ -24,12 +24,13 @@ void answerNumber(char* answer, const char* prefix, int number, const char* suff
 } // namespace
 
 // The first argument behind the format.
-// NOLINTNEXTLINE(bugprone-macro-parentheses): a type and a name cannot stand in parentheses
+// NOLINTBEGIN(bugprone-macro-parentheses): a type and a name cannot stand in parentheses
 #define FIRST_ARGUMENT(type, name)                                                                                     \
     va_list arguments;                                                                                                 \
     va_start(arguments, format);                                                                                       \
     const auto name = va_arg(arguments, type);                                                                         \
     va_end(arguments)
+// NOLINTEND(bugprone-macro-parentheses)
 
 int WorkloadChannel::sendCommand(char* answer, const char* format, ...)
 {

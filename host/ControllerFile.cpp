@@ -121,8 +121,9 @@ public:
     ControllerState readState(const QJsonValue& value, ControllerState state)
     {
         Members members(value, QString(), error);
+        static const QRegularExpression lineBreak("\\R");
         members.read("description", &state.description);
-        members.demand(!state.description.contains(QRegularExpression("\\R")), "description", "one line is expected");
+        members.demand(!state.description.contains(lineBreak), "description", "one line is expected");
         QString protocol = state.protocol.toString();
         bool isVersion = false;
         members.read("protocol", &protocol);

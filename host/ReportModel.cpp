@@ -19,8 +19,10 @@ void ReportModel::add(const QString& category, const QString& systemTag, int fla
         ++row;
     if (row == rowCount()) {
         QList<QStandardItem*> items;
-        for (const QString& text : texts + QStringList{"0", QString()})
+        for (const QString& text : texts)
             items.append(new QStandardItem(text));
+        items.append(new QStandardItem("0"));
+        items.append(new QStandardItem);
         appendRow(items);
     }
     item(row, CountColumn)->setText(QString::number(item(row, CountColumn)->text().toInt() + 1));

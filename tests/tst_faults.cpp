@@ -64,7 +64,8 @@ Run open(Bench& bench, const Session& session, const ScriptedChannel& channel)
 /** Effect and report of the first row of \a table that knows \a command. */
 QStringList consequence(const QByteArrayList& table, const QString& command)
 {
-    for (const QString row : table) {
+    for (const QByteArray& line : table) {
+        const QString row = line;
         const QString pattern = row.section(" -> ", 0, 0).section(' ', 1);
         const QRegularExpression expression('^' + pattern + '$');
         if (expression.match(command).hasMatch())
@@ -156,7 +157,8 @@ QByteArray GarbageChannel::text()
     for (char& byte : bytes)
         byte = static_cast<char>(random.bounded(1, 256));
     return anyOf<QByteArray>({"yes", "yes", "yes", "no", "internal", "video", "a b c d none", "0x0301 7", "", " ",
-                              "direct settings", "x \"a\" b", "\"\"\"", "%n%s%1%2%99", "<b><img src=x>", bytes, bytes});
+                              "direct settings", R"(x "a" b)", R"(""")", "%n%s%1%2%99", "<b><img src=x>", bytes,
+                              bytes});
 }
 
 QByteArray GarbageChannel::number()
@@ -177,9 +179,10 @@ bool GarbageChannel::execute(const QByteArray& operation, const QByteArray& comm
 
 void GarbageChannel::finished(const CommandRecord& record)
 {
+    static const QRegularExpression notWritten("nan|inf|[^ -~]");
     written += record.operation == "set";
     if (record.operation == "set" && !record.command.startsWith("synccard active_mode "))
-        QVERIFY(!QRegularExpression("nan|inf|[^ -~]").match(record.command).hasMatch());
+        QVERIFY(!notWritten.match(record.command).hasMatch());
 }
 
 /** One hasty thing a user may do next. */
@@ -189,7 +192,7 @@ void actAtRandom(const Bench& bench, GarbageChannel* channel)
         return box->accept();
     if (!bench.dialog()->isVisible())
         return;
-    const QByteArray name = channel->anyOf<QByteArray>({"comboBox_modes", "comboBox_source", "comboBox_output"});
+    const auto name = channel->anyOf<QByteArray>({"comboBox_modes", "comboBox_source", "comboBox_output"});
     auto* selector = bench.find<QComboBox>(name);
     if (selector->isEnabled() && selector->count() > 0)
         selector->setCurrentIndex(channel->random.bounded(selector->count()));

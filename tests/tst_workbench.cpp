@@ -71,11 +71,9 @@ void raiseFrequency(const DialogUser& user)
 /** The text of the recording of one opening. */
 QByteArray recorded(const QString& file)
 {
-    {
-        DevelopmentHost host(setup(file));
-        if (host.start())
-            open(host, raiseFrequency);
-    }
+    DevelopmentHost host(setup(file));
+    if (host.start())
+        open(host, raiseFrequency);
     QFile recording(file);
     return recording.open(QIODevice::ReadOnly) ? recording.readAll() : QByteArray();
 }
@@ -115,7 +113,7 @@ void TestWorkbench::replaysWhatItRecorded()
     QVERIFY(differing.start());
     open(differing, nullptr, DialogUser::NotShown);
     const int line = text.left(text.indexOf("mode t02")).count('\n') + 1;
-    const QString expected = "%1:%2: expected \"get synccard mode t03\", found \"get synccard mode t02\"";
+    const QString expected = R"(%1:%2: expected "get synccard mode t03", found "get synccard mode t02")";
     QCOMPARE(differing.replay.problem(), expected.arg(file).arg(line));
 }
 
@@ -150,12 +148,8 @@ void TestWorkbench::readsRecordings()
     QString found;
     QCOMPARE(readRecording(file, &commands, &found), problem.isEmpty());
     QCOMPARE(found, problem.isEmpty() ? QString() : file + ':' + problem);
-    QByteArray again = "synccard recording 1\n";
-    for (const RecordedCommand& command : qAsConst(commands))
-        again += toLine(command.record, 0);
-    const QString whole = "synccard recording 1\n0.000 connect 1.23.0 X -> \n0.000 set a b -> \n0.000 get c failed\n"
-                          "0.000 get d -> \\\\ \\n\n";
-    QVERIFY(!problem.isEmpty() || again == whole);
+    if (problem.isEmpty())
+        QCOMPARE(toLine(commands.last().record, 1234), QByteArray("1.234 get d -> \\\\ \\n\n"));
 }
 
 void TestWorkbench::breaksCommands()
@@ -190,7 +184,7 @@ void TestWorkbench::editsTheController()
     QString problem;
     connect(&model, &ControllerModel::edited, this, [&](const QString& said) { problem = said; });
     const auto edit = [&](const char* name, const QVariant& value) {
-        const QStandardItem* item = model.findItems(name, Qt::MatchRecursive | Qt::MatchStartsWith).first();
+        const QStandardItem* item = model.findItems(name, Qt::MatchRecursive | Qt::MatchStartsWith).constFirst();
         model.setData(item->index().siblingAtColumn(1), value);
         return item->text() + ' ' + item->index().siblingAtColumn(1).data().toString() + ' ' + problem;
     };

@@ -50,9 +50,10 @@ Tour::Tour(const HostSetup& setup, const QString& pictureFolder)
     QObject::connect(&host.channel, &ControllerChannel::executed, printCommand);
     QObject::connect(&host.channel, &ControllerChannel::reported,
                      [](const QString&, const QString&, int, const QString& message) { print("report: " + message); });
-    QObject::connect(&boxPoller, &QTimer::timeout, [this] { closeBox(); });
+    QObject::connect(&boxPoller, &QTimer::timeout, &boxPoller, [this] { closeBox(); });
     boxPoller.start(boxPollMilliseconds);
-    QObject::connect(&host.replay, &Replay::differed, [this](const QString& problem) { demand(false, problem); });
+    QObject::connect(&host.replay, &Replay::differed, &boxPoller,
+                     [this](const QString& problem) { demand(false, problem); });
 }
 
 bool Tour::start()
@@ -129,7 +130,7 @@ void Tour::editChannels()
         demand(!card.channels.isEmpty(), "the controller has no channels");
         QDoubleSpinBox* editor = hasFailed() ? nullptr : user->editDelay(0);
         demand(editor, "the delay editor does not open");
-        if (hasFailed())
+        if (!editor || hasFailed())
             return;
         look("delay-editor");
         const int delay = qMin(1234, static_cast<int>(editor->maximum()));
