@@ -2,6 +2,12 @@
 
 #include <QFont>
 
+CommandModel::CommandModel()
+{
+    timer.setSingleShot(true);
+    connect(&timer, &QTimer::timeout, this, &CommandModel::showPending);
+}
+
 QVariant CommandModel::data(const QModelIndex& index, int role) const
 {
     const Row& row = rows.at(index.row());
@@ -37,8 +43,15 @@ QVariant CommandModel::headerData(int section, Qt::Orientation orientation, int 
 
 void CommandModel::append(const CommandRecord& record)
 {
-    beginInsertRows({}, rows.size(), rows.size());
-    rows.append({QTime::currentTime(), record});
+    pending.append({QTime::currentTime(), record});
+    timer.start();
+}
+
+void CommandModel::showPending()
+{
+    beginInsertRows({}, rows.size(), rows.size() + pending.size() - 1);
+    rows += pending;
+    pending.clear();
     endInsertRows();
 }
 
@@ -46,5 +59,7 @@ void CommandModel::clear()
 {
     beginResetModel();
     rows.clear();
+    pending.clear();
+    timer.stop();
     endResetModel();
 }

@@ -4,9 +4,13 @@
 
 #include <QAbstractTableModel>
 #include <QTime>
+#include <QTimer>
 #include <QVector>
 
-/** The log of all commands, oldest first: time, operation, command, answer, result and duration. */
+/**
+ * The log of all commands, oldest first: time, operation, command, answer, result and duration. Rows appear when the
+ * event loop turns: a burst of commands costs them next to nothing, however long the log.
+ */
 class CommandModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -14,7 +18,7 @@ class CommandModel : public QAbstractTableModel
 public:
     enum Column { TimeColumn, OperationColumn, CommandColumn, AnswerColumn, ResultColumn, DurationColumn, ColumnCount };
 
-    using QAbstractTableModel::QAbstractTableModel;
+    CommandModel();
 
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows.size(); }
     int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : ColumnCount; }
@@ -31,5 +35,9 @@ private:
         QTime time;
         CommandRecord record;
     };
+    void showPending();
+
     QVector<Row> rows;
+    QVector<Row> pending;
+    QTimer timer;
 };

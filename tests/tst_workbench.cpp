@@ -236,9 +236,9 @@ void TestWorkbench::staysUsableBesideTheDialog()
     open(host, [](const DialogUser& user) { user.leave("Escape"); });
     QCOMPARE(rows("reports"), 4);
     QCOMPARE(workbench.findChild<QTableView*>("reports")->model()->index(3, 4).data().toString(), "2");
-    const int all = rows("commands");
+    QTRY_VERIFY(rows("commands") > 60);
     QTest::keyClicks(workbench.findChild<QLineEdit*>(), "FAILED");
-    QVERIFY(all > 40 && rows("commands") == 7);
+    QCOMPARE(rows("commands"), 7);
     auto* measurement = host.window.findChild<QAction*>("measurement");
     measurement->trigger();
     QVERIFY(!element(host)->menu_entry->isEnabled());
