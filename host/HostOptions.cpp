@@ -53,6 +53,8 @@ bool HostOptions::parse(int argc, char* argv[])
     host.pluginFile = parser.value("plugin");
     host.record = parser.value("record");
     host.replay = parser.value("replay");
+    if (!host.replay.isEmpty() && QFileInfo(host.record) == QFileInfo(host.replay))
+        return end(fail(host.record + ": --record would overwrite what --replay reads"));
     return readController() && readProtocol() && readFaults();
 }
 

@@ -61,7 +61,7 @@ QByteArray toLine(const CommandRecord& record, qint64 milliseconds)
 bool readRecording(const QString& file, QVector<RecordedCommand>* commands, QString* error)
 {
     QFile input(file);
-    if (!input.open(QIODevice::ReadOnly)) {
+    if (!input.open(QIODevice::ReadOnly | QIODevice::Text)) {
         *error = file + ": " + input.errorString();
         return false;
     }

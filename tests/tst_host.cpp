@@ -156,6 +156,10 @@ void TestHost::namesWhatIsWrong()
         {"--version", ""},
         {"--list", ""},
         {"--colour", "Unknown option 'colour'. See --help."},
+        {"--replay=a --record=./a", "./a: --record would overwrite what --replay reads"},
+        {"--latency=5001", "--latency 5001: milliseconds from 0 to 5000 are expected"},
+        {"--fail=(", "--fail (: missing closing parenthesis"},
+        {"--replay=/none", "/none: No such file or directory"},
         {"x", "Unexpected argument 'x'. See --help."},
         {"--protocol=1", "--protocol 1: a version such as 1.23 or 1.23.0 is expected"},
         {"--controller=/none", "/none: No such file or directory"},
@@ -167,7 +171,7 @@ void TestHost::namesWhatIsWrong()
         {"--plugin=" NO_MODULE, NO_MODULE + noInterface + "NoModule without it"}};
     for (auto line = lines.begin(); line != lines.end(); ++line) {
         QProcess host;
-        host.start(HOST_PROGRAM, {line.key()});
+        host.start(HOST_PROGRAM, line.key().split(' '));
         QVERIFY(host.waitForFinished());
         QCOMPARE(host.exitCode(), line.value().isEmpty() ? 0 : 2);
         const QString expected = line.value().isEmpty() ? QString() : "synccard-host: " + line.value() + '\n';

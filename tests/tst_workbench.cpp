@@ -123,7 +123,7 @@ void TestWorkbench::readsRecordings_data()
     QTest::addColumn<QString>("problem");
     const QByteArray start = "synccard recording 1\n0.000 connect 1.23.0 X -> \n";
     const QString form = R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";
-    QTest::newRow("whole") << start + "# note\n\n0.1 set a b ->\n0.2 get c failed\n0.3 get d -> \\\\ \\n\n"
+    QTest::newRow("whole") << start + "# note\r\n\n0.1 set a b ->\r\n0.2 get c failed\n0.3 get d -> \\\\ \\n\n"
                            << "";
     QTest::newRow("something else") << QByteArray("{}\n") << "1: this is no recording";
     QTest::newRow("empty") << QByteArray("synccard recording 1\n") << "2: it does not begin with a \"connect\"";
