@@ -31,6 +31,7 @@ QWidget* ChoiceDelegate::createEditor(QWidget* parent, const QStyleOptionViewIte
         return QStyledItemDelegate::createEditor(parent, option, index);
     auto* box = new QComboBox(parent);
     box->setEditable(true);
+    box->setCompleter(nullptr); // it would complete what is typed to an entry of the list
     box->addItems(offered);
     return box;
 }

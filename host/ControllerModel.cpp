@@ -29,6 +29,13 @@ QJsonValue replaced(const QJsonValue& whole, const QStringList& path, const QJso
     return object;
 }
 
+QJsonValue valueAt(QJsonValue value, const QStringList& path)
+{
+    for (const QString& name : path)
+        value = value.isArray() ? value.toArray().at(name.toInt() - 1) : value.toObject().value(name);
+    return value;
+}
+
 QStandardItem* newItem(bool isEditable)
 {
     auto* item = new QStandardItem;
@@ -113,14 +120,11 @@ void ControllerModel::take(const QStandardItem* item)
     const QVariant entered = item->data(Qt::EditRole);
     bool isNumber = false;
     const double number = entered.toString().toDouble(&isNumber);
+    const QJsonValue value =
+        isNumber && valueAt(whole, path).isDouble() ? QJsonValue(number) : QJsonValue::fromVariant(entered);
     ControllerState state = controller->state();
     QString reason;
-    // A number stays one; a text that looks like one stays a text.
-    for (const QJsonValue& value : {QJsonValue::fromVariant(entered), QJsonValue(number)}) {
-        reason.clear();
-        if (readControllerState(replaced(whole, path, value).toObject(), &state, &reason) || !isNumber)
-            break;
-    }
+    readControllerState(replaced(whole, path, value).toObject(), &state, &reason);
     if (reason.isEmpty())
         reason = apply(state);
     emit edited(reason);

@@ -38,17 +38,22 @@ DevelopmentHost::DevelopmentHost(const HostSetup& setup)
 bool DevelopmentHost::start()
 {
     registerResources();
-    if (!openRecordings())
+    // The plug-in first: what cannot begin must not overwrite a recording.
+    if (!loadPlugin() || !openRecordings())
         return false;
     connectTo(isReplaying() ? replay.recordedController(setup.state) : setup.state);
-    return loadModule();
+    placeModule();
+    return true;
 }
 
 bool DevelopmentHost::restart(const ControllerState& state)
 {
     loader.unload();
+    if (!loadPlugin())
+        return false;
     connectTo(state);
-    return loadModule();
+    placeModule();
+    return true;
 }
 
 QString DevelopmentHost::changeState(const ControllerState& state)
@@ -72,16 +77,18 @@ bool DevelopmentHost::openRecordings()
     return error.isEmpty();
 }
 
-bool DevelopmentHost::loadModule()
+bool DevelopmentHost::loadPlugin()
 {
-    if (!loader.load()) {
+    if (!loader.load())
         error = loader.errorString();
-        return false;
-    }
+    return error.isEmpty();
+}
+
+void DevelopmentHost::placeModule()
+{
     loader.setParameters(&channel, &window, &versions, false);
     loader.placeElements(window.menuBar());
     loader.setMeasurementRunning(window.isMeasurementRunning());
-    return true;
 }
 
 void DevelopmentHost::connectTo(const ControllerState& state)
@@ -89,5 +96,5 @@ void DevelopmentHost::connectTo(const ControllerState& state)
     versions = BackendVersions({1, 0, 0}, state.protocol, {1, 0, 0}, state.model);
     controller.setState(state);
     QByteArray nothing;
-    recorder.execute("connect", QString(state.protocol.toString() + ' ' + state.model).toLatin1(), &nothing);
+    recorder.execute("connect", QString(state.protocol.toString() + ' ' + state.model).trimmed().toLatin1(), &nothing);
 }

@@ -50,6 +50,7 @@ public:
 
 private:
     bool openRecordings();
-    bool loadModule();
+    bool loadPlugin();
+    void placeModule();
     void connectTo(const ControllerState& state);
 };

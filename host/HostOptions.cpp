@@ -53,9 +53,7 @@ bool HostOptions::parse(int argc, char* argv[])
     host.pluginFile = parser.value("plugin");
     host.record = parser.value("record");
     host.replay = parser.value("replay");
-    if (!host.replay.isEmpty() && QFileInfo(host.record) == QFileInfo(host.replay))
-        return end(fail(host.record + ": --record would overwrite what --replay reads"));
-    return readController() && readProtocol() && readFaults();
+    return readController() && readProtocol() && readFaults() && checkRecordings();
 }
 
 QString HostOptions::controllerFolder()
@@ -117,6 +115,21 @@ bool HostOptions::readFaults()
     if (isLatency && host.latency >= 0 && host.latency <= Faults::maximumLatency)
         return true;
     return end(fail("--latency " + text + ": milliseconds from 0 to 5000 are expected"));
+}
+
+bool HostOptions::checkRecordings()
+{
+    for (const char* option : {"record", "replay"}) {
+        if (parser.isSet(option) && parser.value(option).isEmpty())
+            return end(fail(QString("--%1: a file is expected").arg(QLatin1String(option))));
+    }
+    if (!parser.isSet("replay"))
+        return true;
+    if (parser.isSet("fail"))
+        return end(fail("--fail: a replay fails what was recorded as failed"));
+    if (QFileInfo(host.record) == QFileInfo(host.replay))
+        return end(fail(host.record + ": --record would overwrite what --replay reads"));
+    return true;
 }
 
 bool HostOptions::end(int exitStatus)

@@ -41,6 +41,7 @@ private:
     bool readController();
     bool readProtocol();
     bool readFaults();
+    bool checkRecordings();
 
     QCommandLineParser parser;
     HostSetup host;

@@ -13,9 +13,12 @@ bool Recorder::execute(const QByteArray& operation, const QByteArray& command, Q
 {
     const bool isAnswered = below->execute(operation, command, answer);
     if (file.isOpen()) {
-        file.write(
-            toLine({operation, command, isAnswered ? *answer : QByteArray(), isAnswered ? 0 : -1}, time.elapsed()));
-        file.flush(); // what was recorded must outlive a crash
+        const CommandRecord record{operation, command, isAnswered ? *answer : QByteArray(), isAnswered ? 0 : -1};
+        // Flushed at once: what was recorded must outlive a crash.
+        if (file.write(toLine(record, time.elapsed())) < 0 || !file.flush()) {
+            qWarning("%s; the recording ends here", qPrintable(errorString()));
+            file.close();
+        }
     }
     return isAnswered;
 }

@@ -16,16 +16,21 @@ QByteArray escaped(const QByteArray& text)
 QByteArray unescaped(const QString& text)
 {
     QByteArray bytes = text.toLatin1();
-    for (int i = bytes.indexOf('\\'); i >= 0; i = bytes.indexOf('\\', i + 1))
-        bytes.replace(i, 2, bytes.mid(i + 1, 1) == "n" ? "\n" : "\\");
+    for (int i = bytes.indexOf('\\'); i >= 0; i = bytes.indexOf('\\', i + 1)) {
+        if (bytes.mid(i + 1, 1) == "n")
+            bytes.replace(i, 2, "\n");
+        else if (bytes.mid(i + 1, 1) == "\\")
+            bytes.remove(i, 1);
+    }
     return bytes;
 }
 
 bool isVersion(const QString& text)
 {
     bool isOne = false;
-    VersionInfo(0, 0, 0).fromString(text, &isOne);
-    return isOne;
+    VersionInfo version(0, 0, 0);
+    version.fromString(text, &isOne);
+    return isOne && version.toString() == text;
 }
 
 /** Reads one line; a null reason when it is whole. */
@@ -33,6 +38,8 @@ QString readLine(const QString& line, CommandRecord* record)
 {
     static const QRegularExpression form(R"(^(\S+) (\S+) (.*?)( ->(?: (.*))?| failed)$)");
     static const QByteArrayList operations = {"connect", "send", "get", "int", "double", "bool", "set"};
+    if (QString::fromLatin1(line.toLatin1()) != line)
+        return "a character that is not Latin-1, or no UTF-8";
     const QRegularExpressionMatch match = form.match(line);
     if (!match.hasMatch())
         return R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";
@@ -76,8 +83,10 @@ bool readRecording(const QString& file, QVector<RecordedCommand>* commands, QStr
         reason = readLine(text, &record);
         commands->append({record, line + 1});
     }
-    if (reason.isEmpty() && (commands->isEmpty() || commands->first().record.operation != "connect"))
+    if (reason.isEmpty() && (commands->isEmpty() || commands->first().record.operation != "connect")) {
         reason = "it does not begin with a \"connect\"";
+        line = commands->isEmpty() ? 2 : commands->first().line;
+    }
     if (reason.isEmpty())
         return true;
     *error = QString("%1:%2: %3").arg(file).arg(line).arg(reason);

@@ -28,6 +28,9 @@ public:
     /** What is damaged, or the first command that differed, with its line, what was expected and what came. */
     QString problem() const { return firstProblem; }
 
+    /** Whether every command of the recording has been asked. */
+    bool isAtEnd() { return !due(); }
+
     bool execute(const QByteArray& operation, const QByteArray& command, QByteArray* answer) override;
 
 signals:

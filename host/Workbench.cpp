@@ -38,7 +38,8 @@ Workbench::Workbench(DevelopmentHost* host)
     auto* tabs = new QTabWidget;
     tabs->addTab(createCommands(), tr("&Commands"));
     tabs->addTab(createReports(), tr("&Reports"));
-    tabs->addTab(createController(), tr("C&ontroller"));
+    if (!host->isReplaying())
+        tabs->addTab(createController(), tr("C&ontroller"));
     message->setTextFormat(Qt::PlainText);
     message->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);
@@ -52,7 +53,10 @@ Workbench::Workbench(DevelopmentHost* host)
         commands.append(record);
     });
     connect(&host->channel, &ControllerChannel::reported, &reports, &ReportModel::add);
-    connect(&host->replay, &Replay::differed, this, &Workbench::say);
+    connect(&host->replay, &Replay::differed, this, [this](const QString& problem) {
+        say(problem);
+        commands.append({"replay", problem.toUtf8(), {}, -1});
+    });
     connect(&controller, &ControllerModel::edited, this, &Workbench::say);
     connect(&host->window, &MainWindow::workbenchWanted, this, [this] {
         show();
@@ -130,6 +134,8 @@ QWidget* Workbench::createFaults()
     auto* count = new QSpinBox;
     count->setRange(0, 1000);
     count->setSpecialValueText(tr("none"));
+    count->setKeyboardTracking(false);
+    count->setEnabled(!host->isReplaying());
     connect(count, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int n) { host->faults.failNth(n); });
     connect(&host->channel, &ControllerChannel::executed, count, [this, count] {
         const QSignalBlocker blocker(count);
@@ -137,15 +143,18 @@ QWidget* Workbench::createFaults()
     });
     auto* pattern = new QLineEdit(host->faults.failing().pattern());
     pattern->setPlaceholderText(tr("regular expression, such as output_delay.*ch02"));
-    connect(pattern, &QLineEdit::textChanged, this, [this](const QString& text) {
-        const QRegularExpression expression(text);
-        say(expression.isValid() ? QString() : tr("No regular expression: %1").arg(expression.errorString()));
+    pattern->setEnabled(!host->isReplaying());
+    connect(pattern, &QLineEdit::editingFinished, this, [this, pattern] {
+        const QRegularExpression expression(pattern->text());
+        say(expression.isValid() ? QString()
+                                 : tr("No regular expression, the former one stays: %1").arg(expression.errorString()));
         if (expression.isValid())
             host->faults.failMatching(expression);
     });
     auto* latency = new QSpinBox;
     latency->setRange(0, Faults::maximumLatency);
     latency->setSingleStep(100);
+    latency->setKeyboardTracking(false);
     latency->setSuffix(tr(" ms"));
     latency->setValue(host->faults.latency());
     connect(latency, QOverload<int>::of(&QSpinBox::valueChanged), this,
@@ -180,7 +189,6 @@ QWidget* Workbench::createController()
         if (index.siblingAtColumn(1).flags() & Qt::ItemIsEditable)
             tree->edit(index.siblingAtColumn(1));
     });
-    tree->setEnabled(!host->isReplaying());
     return tree;
 }
 

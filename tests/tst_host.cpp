@@ -159,6 +159,8 @@ void TestHost::namesWhatIsWrong()
         {"--replay=a --record=./a", "./a: --record would overwrite what --replay reads"},
         {"--latency=5001", "--latency 5001: milliseconds from 0 to 5000 are expected"},
         {"--fail=(", "--fail (: missing closing parenthesis"},
+        {"--record=", "--record: a file is expected"},
+        {"--replay=a --fail=b", "--fail: a replay fails what was recorded as failed"},
         {"--replay=/none", "/none: No such file or directory"},
         {"x", "Unexpected argument 'x'. See --help."},
         {"--protocol=1", "--protocol 1: a version such as 1.23 or 1.23.0 is expected"},

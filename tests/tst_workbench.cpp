@@ -111,7 +111,7 @@ void TestWorkbench::replaysWhatItRecorded()
     write(file, QByteArray(text).replace("get synccard mode t02", "get synccard mode t03"));
     DevelopmentHost differing(setup(QString(), file));
     QVERIFY(differing.start());
-    open(differing, nullptr, DialogUser::NotShown);
+    open(differing, raiseFrequency, DialogUser::NotShown);
     const int line = text.left(text.indexOf("mode t02")).count('\n') + 1;
     const QString expected = R"(%1:%2: expected "get synccard mode t03", found "get synccard mode t02")";
     QCOMPARE(differing.replay.problem(), expected.arg(file).arg(line));
@@ -127,6 +127,10 @@ void TestWorkbench::readsRecordings_data()
                            << "";
     QTest::newRow("something else") << QByteArray("{}\n") << "1: this is no recording";
     QTest::newRow("empty") << QByteArray("synccard recording 1\n") << "2: it does not begin with a \"connect\"";
+    QTest::newRow("not begun") << QByteArray("synccard recording 1\n#\n0 get a -> b\n0 get a -> b\n")
+                               << "3: it does not begin with a \"connect\"";
+    QTest::newRow("Latin-1") << start + "0.1 get a -> \xE4\n"
+                             << "3: a character that is not Latin-1, or no UTF-8";
     QTest::newRow("no answer") << start + "0.1 get a\n"
                                << "3: " + form;
     QTest::newRow("time") << start + "x get a -> b\n"
@@ -211,7 +215,7 @@ void TestWorkbench::editsTheController()
     open(host, [](const DialogUser& user) { user.leave("Escape"); });
 }
 
-/** Clicks reach the workbench while the dialog is open, and none the main window. */
+/** Clicks reach the workbench while the dialog is open, and the main window does not close then. */
 void TestWorkbench::staysUsableBesideTheDialog()
 {
     HostSetup failing = setup();
@@ -222,7 +226,7 @@ void TestWorkbench::staysUsableBesideTheDialog()
     workbench.show();
     auto* tabs = workbench.findChild<QTabBar*>();
     const auto rows = [&](const char* table) { return workbench.findChild<QTableView*>(table)->model()->rowCount(); };
-    open(host, nullptr, DialogUser::NotShown);
+    open(host, raiseFrequency, DialogUser::NotShown);
     QCOMPARE(rows("reports"), 1);
     host.faults.failMatching(QRegularExpression("has_output"));
     open(host, [&](const DialogUser& user) {
@@ -237,6 +241,7 @@ void TestWorkbench::staysUsableBesideTheDialog()
     QCOMPARE(rows("reports"), 4);
     QCOMPARE(workbench.findChild<QTableView*>("reports")->model()->index(3, 4).data().toString(), "2");
     QTRY_VERIFY(rows("commands") > 60);
+    tabs->setCurrentIndex(0);
     QTest::keyClicks(workbench.findChild<QLineEdit*>(), "FAILED");
     QCOMPARE(rows("commands"), 7);
     auto* measurement = host.window.findChild<QAction*>("measurement");

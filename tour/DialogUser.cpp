@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QElapsedTimer>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -21,6 +22,7 @@ DialogUser::Outcome DialogUser::openBy(const Steps& trigger, const Steps& steps)
 {
     Outcome outcome = NotShown;
     QTimer poller;
+    QElapsedTimer shown;
     const auto close = [&] {
         poller.stop();
         if (!target || !target->isVisible())
@@ -29,6 +31,11 @@ DialogUser::Outcome DialogUser::openBy(const Steps& trigger, const Steps& steps)
         target->done(QDialog::Rejected);
     };
     QObject::connect(&poller, &QTimer::timeout, target, [&] {
+        // Counted from the dialog's own event loop: slow commands may have come before.
+        if (!shown.isValid())
+            shown.start();
+        if (shown.elapsed() > deadlineMilliseconds)
+            close();
         if (outcome != NotShown || QApplication::activeModalWidget() != target)
             return;
         outcome = Closed;
@@ -43,7 +50,6 @@ DialogUser::Outcome DialogUser::openBy(const Steps& trigger, const Steps& steps)
         close();
     });
     poller.start(pollMilliseconds);
-    QTimer::singleShot(deadlineMilliseconds, &poller, close);
     trigger();
     return outcome;
 }

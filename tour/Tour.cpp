@@ -76,6 +76,8 @@ bool Tour::run()
         if (!hasFailed())
             (this->*next)();
     }
+    if (host.isReplaying())
+        demand(host.replay.isAtEnd(), "the recording goes on after the tour's end");
     return !hasFailed();
 }
 

@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# usage: recorded_tour.sh TOUR_PROGRAM FOLDER
+# A recorded tour replays to its end; with a line edited, one missing, one too many, or damaged, it says where it stops.
+set -euo pipefail
+tour=$1 folder=$2
+rm -rf "$folder"
+mkdir -p "$folder"
+whole=$folder/whole.txt
+
+# Replays the recording FILE and expects STATUS and, on standard error, the MESSAGE.
+expect() {
+    local file=$1 status=$2 message=$3 found=0
+    "$tour" --replay "$file" >/dev/null 2>"$folder/errors" || found=$?
+    [ "$found" = "$status" ] && { [ -z "$message" ] || grep -qF -- "$message" "$folder/errors"; } && return
+    echo "recorded_tour: $file: expected status $status and \"$message\", found status $found and:" >&2
+    cat "$folder/errors" >&2
+    exit 1
+}
+
+"$tour" --record "$whole" >/dev/null
+expect "$whole" 0 ""
+sed 's/d01 61\.000000/d01 62.000000/' "$whole" >"$folder/edited.txt"
+line=$(grep -n -m1 'd01 62\.000000' "$folder/edited.txt" | cut -d: -f1)
+expect "$folder/edited.txt" 1 "edited.txt:$line: expected \"set synccard internal_frequency d01 62.000000\", found"
+sed '9d' "$whole" >"$folder/missing.txt"
+expect "$folder/missing.txt" 1 "missing.txt:9: expected"
+(cat "$whole" && echo '99.9 get synccard available -> yes') >"$folder/more.txt"
+expect "$folder/more.txt" 1 "the recording goes on after the tour's end"
+sed '9s/.*/hello/' "$whole" >"$folder/damaged.txt"
+expect "$folder/damaged.txt" 2 "damaged.txt:9: "
