@@ -106,7 +106,6 @@ QWidget* Workbench::createCommands()
             QMetaObject::invokeMethod(table, "scrollToBottom", Qt::QueuedConnection);
     });
     auto* filter = new QLineEdit;
-    filter->setClearButtonEnabled(true);
     connect(filter, &QLineEdit::textChanged, &shownCommands, &QSortFilterProxyModel::setFilterFixedString);
     auto* filterLabel = new QLabel(tr("Fi&lter"));
     filterLabel->setBuddy(filter);
