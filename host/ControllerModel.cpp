@@ -6,7 +6,6 @@
 #include <QFont>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QTimer>
 
 namespace {
 
@@ -49,19 +48,19 @@ ControllerModel::ControllerModel(SimulatedController* controller, Apply apply)
     : controller(controller), apply(std::move(apply))
 {
     setHorizontalHeaderLabels({tr("Name"), tr("Value")});
-    markFromNow();
-    // A burst of commands is shown once.
-    auto* timer = new QTimer(this);
-    timer->setSingleShot(true);
-    connect(controller, &SimulatedController::changed, timer, QOverload<>::of(&QTimer::start));
-    connect(timer, &QTimer::timeout, this, &ControllerModel::refresh);
+    marked = controller->state().toJson();
+    refresh();
+    // A burst of commands is shown once, and no opening of the dialog waits for the tree.
+    timer.setSingleShot(true);
+    connect(controller, &SimulatedController::changed, &timer, QOverload<>::of(&QTimer::start));
+    connect(&timer, &QTimer::timeout, this, &ControllerModel::refresh);
     connect(this, &QStandardItemModel::itemChanged, this, &ControllerModel::take);
 }
 
 void ControllerModel::markFromNow()
 {
     marked = controller->state().toJson();
-    refresh();
+    timer.start();
 }
 
 void ControllerModel::refresh()

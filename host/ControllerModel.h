@@ -2,6 +2,7 @@
 
 #include <QJsonValue>
 #include <QStandardItemModel>
+#include <QTimer>
 
 #include <functional>
 
@@ -43,5 +44,6 @@ private:
     SimulatedController* controller;
     Apply apply;
     QJsonValue marked;
+    QTimer timer;
     bool isRefreshing = false;
 };

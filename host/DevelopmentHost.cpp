@@ -60,7 +60,10 @@ QString DevelopmentHost::changeState(const ControllerState& state)
 {
     if (isLegacy(state) == isLegacy(controller.state())) {
         const bool isSame = versions.protocol() == state.protocol && versions.hubModel() == state.model;
-        isSame ? controller.setState(state) : connectTo(state);
+        if (isSame)
+            controller.setState(state);
+        else
+            connectTo(state);
         return {};
     }
     if (QApplication::activeModalWidget())
@@ -79,8 +82,7 @@ bool DevelopmentHost::openRecordings()
 
 bool DevelopmentHost::loadPlugin()
 {
-    if (!loader.load())
-        error = loader.errorString();
+    error = loader.load() ? QString() : loader.errorString();
     return error.isEmpty();
 }
 

@@ -7,20 +7,23 @@
 
 namespace {
 
-/** Latin-1 of the wire as UTF-8 on one line. */
+/** Latin-1 of the wire as UTF-8 on one line. In a command the arrow before the answer must not seem to come. */
 QByteArray escaped(const QByteArray& text)
 {
-    return QString::fromLatin1(text).replace('\\', "\\\\").replace('\n', "\\n").toUtf8();
+    QString line = QString::fromLatin1(text);
+    line.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r").replace("->", "\\->");
+    return line.toUtf8();
 }
 
 QByteArray unescaped(const QString& text)
 {
     QByteArray bytes = text.toLatin1();
     for (int i = bytes.indexOf('\\'); i >= 0; i = bytes.indexOf('\\', i + 1)) {
-        if (bytes.mid(i + 1, 1) == "n")
-            bytes.replace(i, 2, "\n");
-        else if (bytes.mid(i + 1, 1) == "\\")
-            bytes.remove(i, 1);
+        bytes.remove(i, 1);
+        if (bytes.at(i) == 'n')
+            bytes[i] = '\n';
+        else if (bytes.at(i) == 'r')
+            bytes[i] = '\r';
     }
     return bytes;
 }
@@ -37,9 +40,12 @@ bool isVersion(const QString& text)
 QString readLine(const QString& line, CommandRecord* record)
 {
     static const QRegularExpression form(R"(^(\S+) (\S+) (.*?)( ->(?: (.*))?| failed)$)");
+    static const QRegularExpression escapes(R"(^(?:[^\\]|\\[nr\\-])*$)");
     static const QByteArrayList operations = {"connect", "send", "get", "int", "double", "bool", "set"};
     if (QString::fromLatin1(line.toLatin1()) != line)
         return "a character that is not Latin-1, or no UTF-8";
+    if (!escapes.match(line).hasMatch())
+        return R"(an unknown "\"; the character itself is written "\\")";
     const QRegularExpressionMatch match = form.match(line);
     if (!match.hasMatch())
         return R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";

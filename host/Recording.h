@@ -17,7 +17,7 @@ struct RecordedCommand
 
 /**
  * The line "12.345 get synccard source d01 -> internal", or "12.345 get synccard source d01 failed", with the time in
- * seconds. Texts are UTF-8; a backslash and a line break in them are written as "\\\\" and "\\n".
+ * seconds. Texts are UTF-8; docs/workbench.md tells how a backslash, a line break and an arrow are written in them.
  */
 QByteArray toLine(const CommandRecord& record, qint64 milliseconds);
 

@@ -138,7 +138,9 @@ QWidget* Workbench::createFaults()
     connect(count, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int n) { host->faults.failNth(n); });
     connect(&host->channel, &ControllerChannel::executed, count, [this, count] {
         const QSignalBlocker blocker(count);
-        count->setValue(host->faults.commandsToFailure());
+        // Setting it anew would take away what somebody is typing.
+        if (count->value() != host->faults.commandsToFailure())
+            count->setValue(host->faults.commandsToFailure());
     });
     auto* pattern = new QLineEdit(host->faults.failing().pattern());
     pattern->setPlaceholderText(tr("regular expression, such as output_delay.*ch02"));

@@ -123,7 +123,7 @@ void TestWorkbench::readsRecordings_data()
     QTest::addColumn<QString>("problem");
     const QByteArray start = "synccard recording 1\n0.000 connect 1.23.0 X -> \n";
     const QString form = R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";
-    QTest::newRow("whole") << start + "# note\r\n\n0.1 set a b ->\r\n0.2 get c failed\n0.3 get d -> \\\\ \\n\n"
+    QTest::newRow("whole") << start + "# note\r\n\n0.1 set a b ->\r\n0.2 get c failed\n0.3 get \\-> -> \\\\ \\n\\r\n"
                            << "";
     QTest::newRow("something else") << QByteArray("{}\n") << "1: this is no recording";
     QTest::newRow("empty") << QByteArray("synccard recording 1\n") << "2: it does not begin with a \"connect\"";
@@ -131,6 +131,8 @@ void TestWorkbench::readsRecordings_data()
                                << "3: it does not begin with a \"connect\"";
     QTest::newRow("Latin-1") << start + "0.1 get a -> \xE4\n"
                              << "3: a character that is not Latin-1, or no UTF-8";
+    QTest::newRow("escape") << start + "0.1 get a -> Cam\\era\n"
+                            << R"(3: an unknown "\"; the character itself is written "\\")";
     QTest::newRow("no answer") << start + "0.1 get a\n"
                                << "3: " + form;
     QTest::newRow("time") << start + "x get a -> b\n"
@@ -153,7 +155,7 @@ void TestWorkbench::readsRecordings()
     QCOMPARE(readRecording(file, &commands, &found), problem.isEmpty());
     QCOMPARE(found, problem.isEmpty() ? QString() : file + ':' + problem);
     if (problem.isEmpty())
-        QCOMPARE(toLine(commands.last().record, 1234), QByteArray("1.234 get d -> \\\\ \\n\n"));
+        QCOMPARE(toLine(commands.last().record, 1234), QByteArray("1.234 get \\-> -> \\\\ \\n\\r\n"));
 }
 
 void TestWorkbench::breaksCommands()

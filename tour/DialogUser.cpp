@@ -31,13 +31,13 @@ DialogUser::Outcome DialogUser::openBy(const Steps& trigger, const Steps& steps)
         target->done(QDialog::Rejected);
     };
     QObject::connect(&poller, &QTimer::timeout, target, [&] {
+        if (outcome != NotShown)
+            return;
         // Counted from the dialog's own event loop: slow commands may have come before.
         if (!shown.isValid())
             shown.start();
-        if (shown.elapsed() > deadlineMilliseconds)
-            close();
-        if (outcome != NotShown || QApplication::activeModalWidget() != target)
-            return;
+        if (QApplication::activeModalWidget() != target)
+            return shown.elapsed() > deadlineMilliseconds ? close() : void();
         outcome = Closed;
         // A window counts as active while its parent is; the keyboard is the dialog's only when it has the focus.
         const auto hasFocus = [this] {

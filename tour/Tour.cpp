@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int boxPollMilliseconds = 5;
+constexpr int pollDeadlineMilliseconds = 20000; // its two commands may be slow
 
 void print(const QString& line)
 {
@@ -62,6 +63,8 @@ bool Tour::start()
         firstProblem = host.errorString();
         return false;
     }
+    if (host.isReplaying())
+        initial = host.replay.recordedController(initial);
     host.window.show();
     meetDialog();
     return true;
@@ -242,7 +245,8 @@ void Tour::visit(const QString& title, const DialogUser::Steps& steps)
 void Tour::waitForPoll()
 {
     const auto* input = user->find<QLabel>("label_inputSource");
-    demand(initial.input.isEmpty() || QTest::qWaitFor([input] { return !input->text().isEmpty(); }),
+    demand(initial.input.isEmpty()
+               || QTest::qWaitFor([input] { return !input->text().isEmpty(); }, pollDeadlineMilliseconds),
            "the sync input is not polled");
 }
 
