@@ -4,21 +4,21 @@
 #include <QtGlobal>
 
 /**
- * The host's command channel to the tracking controller. These are the operations that modules call; a real host's own
- * header has further ones between them, so that a plug-in must be built against the headers of the host that loads it.
+ * The host's command channel to the tracking controller. This header declares the operations that modules call. The
+ * header of a real host declares further operations between them, so build a plug-in against the headers of the host
+ * that loads it.
  *
- * The host owns it, hands a pointer to every module ("CommandManager") and keeps it alive until
- * ModuleInterface::exit_module() has returned. Modules call it on the GUI thread only; every call blocks until the
- * controller has answered or the channel has given up. Waiting, time-outs and connection loss are the channel's
- * business.
+ * The host owns the channel, hands a pointer to it to every module ("CommandManager") and keeps it alive until
+ * ModuleInterface::exit_module() has returned. Modules call it on the GUI thread only. Every call blocks until the
+ * controller answers or the channel gives up: the channel alone handles waiting, time-outs and lost connections.
  *
- * The six formatting operations build their command like printf, with a decimal point whatever the user's locale,
- * and return 0 on success and anything else on failure; after a failure neither answer nor result may be used.
- * A parameter command is a name with its qualifiers ("synccard source d01"): the channel adds the get or set framing.
+ * The six formatting operations build their command like printf, with a decimal point whatever the user's locale.
+ * They return 0 on success and any other number on failure; after a failure the caller uses neither answer nor result.
+ * A parameter command is a name with its qualifiers ("synccard source d01"); the channel adds the get or set framing.
  *
  * Answer buffers belong to the caller and carry no size. The channel writes a terminated Latin-1 text of at most
- * 200 characters, the terminator included; at most 16 for the text read of "synccard has_input_frequency" and at
- * most 100 for "synccard output d01". A longer answer must fail.
+ * 200 characters, the terminator included. The limit is 16 for getParameter() of "synccard has_input_frequency" and
+ * 100 for "synccard output d01". A longer answer is a failure.
  */
 class IOManager
 {
@@ -44,9 +44,9 @@ public:
     virtual int setParameter(const char* format, ...) Q_ATTRIBUTE_FORMAT_PRINTF(2, 3) = 0;
 
     /**
-     * Hands an error message to the host; \a message is a finished Latin-1 text, not a format. The meaning of
-     * message class, originating system and display flag belongs to the host. It returns without running an event
-     * loop: a box inside it would let the next poll in, and must not end the module.
+     * Hands an error message to the host. \a message is a finished Latin-1 text, not a format. The host decides what
+     * \a category, \a systemTag (the system that reports) and the display flag \a flag mean. The host must not run an
+     * event loop here, as a message box does, because the next poll would start inside it; nor may it end the module.
      */
     virtual void reportError(const char* category, const char* systemTag, int flag, const char* message) = 0;
 };

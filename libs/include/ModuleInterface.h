@@ -17,7 +17,7 @@ struct _GuiElement // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl5
     _GuiElement() = default;
     ~_GuiElement() = default;
 
-    /** The entry; activating it is the module's business alone. */
+    /** The entry. The module alone handles its activation. */
     QAction* menu_entry = nullptr;
     /** The place of the entry within its menu: smaller numbers first. */
     int menu_entry_order_number = 0;
@@ -33,19 +33,19 @@ struct _GuiElement // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl5
 typedef _GuiElement GuiElement; // NOLINT(modernize-use-using): the contract's form
 
 /**
- * What the host demands of a module plug-in. The host calls everything on its GUI thread, in this order:
+ * The functions that every module plug-in offers to the host. The host calls them on its GUI thread in this order:
  * set_param() for each of its four values, get_gui_elements(), and at shutdown about_to_exit_module() and
- * exit_module(), while the parent widget still exists; then it deletes the module object, which it owns.
+ * exit_module(), while the parent widget still exists. Then the host deletes the module object, which it owns.
  */
 class ModuleInterface
 {
 public:
     virtual ~ModuleInterface() = default;
 
-    /** Announces the shutdown. */
+    /** Tells the module that the host is about to call exit_module(). */
     virtual void about_to_exit_module() = 0;
 
-    /** Ends the module's windows. The host's objects must still be alive; calling it again is harmless. */
+    /** Deletes the module's windows. The host's objects must still be alive. Calling it again is harmless. */
     virtual void exit_module() = 0;
 
     /** The module's translated name. */
@@ -54,14 +54,17 @@ public:
     /** The module's version, such as "v1.2.7". */
     virtual QString get_module_version() const = 0;
 
-    /** The module's menu entries, built at the first call and again after exit_module(); they stay the module's. */
+    /**
+     * The module's menu entries, which the module owns. It creates them at the first call, and again at the first
+     * call after exit_module().
+     */
     virtual QList<_GuiElement*> get_gui_elements() = 0;
 
     /**
      * Hands over one of the host's values before the first get_gui_elements():
      * "CommandManager" (IOManager*), "ModuleParent" (QWidget*), "BackendVersions" (BackendVersions*) and
-     * "ObserverMode" (bool). The objects stay the host's. Any other name is ignored; a value that cannot be
-     * converted counts as null or false.
+     * "ObserverMode" (bool). The host keeps ownership of the objects. Any other name is ignored; a value that cannot
+     * be converted counts as null or false.
      */
     virtual void set_param(QString name, QVariant value) = 0;
 };

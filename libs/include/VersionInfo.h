@@ -23,8 +23,8 @@ public:
     }
 
     /**
-     * Reads "1.23.0" or "1.23", a missing patch being 0; no blanks, no plus sign.
-     * \a ok, which may be null, tells whether \a text was such a version; if not, the version stays as it was.
+     * Reads "1.23.0" or "1.23"; a missing patch counts as 0. Refuses blanks and plus signs.
+     * Sets \a ok, which may be null, to whether \a text is such a version; if it is not, this version stays unchanged.
      */
     void fromString(const QString& text, bool* ok = nullptr)
     {
@@ -45,7 +45,7 @@ public:
             *ok = isVersion;
     }
 
-    /** The version as "1.23.0": always three integers. */
+    /** The version as "1.23.0", always with all three integers. */
     QString toString() const { return QStringLiteral("%1.%2.%3").arg(ma).arg(mi).arg(pa); }
 
     // Not major() and minor(): older C libraries define these names as macros.

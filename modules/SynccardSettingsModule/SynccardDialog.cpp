@@ -19,13 +19,13 @@ SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
     setupUi(this);
     m_icon_lock.addFile(QLatin1String(":/lock.png"));
     layout()->setSizeConstraint(QLayout::SetFixedSize);
-    // They show what the controller sends, which may look like markup.
+    // These labels show texts from the controller, which may look like markup.
     label_inputSource->setTextFormat(Qt::PlainText);
     label_inputFrequency->setTextFormat(Qt::PlainText);
     timer = new QTimer;
     timer->setInterval(pollIntervalMilliseconds);
     connect(timer, &QTimer::timeout, this, &SynccardDialog::poll_input_frequency);
-    // A host may end the dialog by done() as well, without accept() or reject().
+    // A host may also end the dialog with done(), which calls neither accept() nor reject().
     connect(this, &QDialog::finished, timer, &QTimer::stop);
     setup_tableWidget_synccards();
     setup_tableWidget_channels();
@@ -55,13 +55,28 @@ int SynccardDialog::update_and_exec()
     return isProtocolAtLeast(0, 13) ? update_and_exec_prot_version_0_13() : update_and_exec_prot_version_0_8();
 }
 
+int SynccardDialog::update_and_exec_prot_version_0_13()
+{
+    if (!update_tableWidget_synccards())
+        return -1;
+    bUserAction = false;
+    const int modesResult = update_comboBox_modes();
+    if (modesResult != 0)
+        return modesResult;
+    updateControlsDirectSettings();
+    storePreviousSettings();
+    bUserAction = true;
+    bSomethingChanged = false;
+    return exec_with_poll();
+}
+
 int SynccardDialog::exec_without_synccard()
 {
     disableDialog(true);
     return exec();
 }
 
-/** The common end of both protocol paths. Nothing may follow exec(): the dialog may be gone by then. */
+/** Both protocol paths end here. No code may follow exec(): its parent may have deleted the dialog by then. */
 int SynccardDialog::exec_with_poll()
 {
     timer->start();
@@ -149,7 +164,7 @@ void SynccardDialog::showDetails(bool bShow)
     tableWidget_channels->setVisible(bShow);
 }
 
-/** Lines the spin boxes up with the source selector. */
+/** Makes the spin boxes at least as wide as the source selector. */
 void SynccardDialog::updateWidthContols()
 {
     const int width = comboBox_source->width();

@@ -12,10 +12,9 @@ class IOManager;
 class QTimer;
 
 /**
- * The modal "Synccard Settings" dialog: reads the synccard settings from the controller at every opening, shows
- * them, and writes the changes back on OK. Lives on the GUI thread; channel, versions and parent stay the host's.
- *
- * Without channel or versions it behaves as if there were no synccard.
+ * The modal "Synccard Settings" dialog. At every opening it reads the synccard settings from the controller and shows
+ * them; on OK it writes the changes back. It lives on the GUI thread. The host keeps ownership of channel, versions and
+ * parent; without channel or versions the dialog behaves as if there were no synccard.
  */
 class SynccardDialog : public QDialog, public Ui::synccarddialog
 {
@@ -27,13 +26,13 @@ public:
 
 public slots:
     /**
-     * Fills the dialog from the controller and runs it modally. Returns QDialog::Accepted or QDialog::Rejected; -1
-     * when a read without which nothing can be shown failed, or when the dialog is open already.
+     * Fills the dialog from the controller and runs it modally. Returns QDialog::Accepted or QDialog::Rejected. Returns
+     * -1, without running the dialog, when it is already open or a read fails that the dialog cannot do without.
      */
     int update_and_exec();
 
 private slots:
-    // Changes by the user: they mark the dialog as changed; a new source is also written at once.
+    // A change by the user marks the dialog as changed. A new source is also written to the controller at once.
     void on_comboBox_output_currentIndexChanged(int idx);
     void on_tableWidget_channels_cellChanged(int row, int column);
     void on_comboBox_modes_currentIndexChanged(const QString& s);
@@ -44,10 +43,15 @@ private slots:
     void accept() override;
     void reject() override;
 
+    /** Shows what the sync input measures; the timer calls it once a second while the dialog is open. */
     void poll_input_frequency();
 
 private:
+    /** The columns of the card table, from left to right. */
+    enum CardColumn { ModelColumn, SerialColumn, CardColumnCount };
+
     // Entry and switches: SynccardDialog.cpp
+    int update_and_exec_prot_version_0_13();
     bool isSynccardAvailable();
     bool is_config_locked();
     void disableDialog(bool bDisable);
@@ -71,7 +75,6 @@ private:
     bool isDirectSettings(const QString& itemText) const;
 
     // Direct settings: SynccardDialog_direct.cpp
-    int update_and_exec_prot_version_0_13();
     void setup_tableWidget_synccards();
     bool update_tableWidget_synccards();
     bool add_card(int number);
@@ -81,7 +84,7 @@ private:
     void update_spinBox_externalDivisor();
     void show_internal_frequency();
     void show_external_divisor(const QString& source);
-    /** Protocols 1.9 and 1.10, on which OK writes no divisor. */
+    /** Whether the controller speaks protocol 1.9 or 1.10, where OK writes no divisor. */
     bool isProtocolWithoutDivisor() const;
 
     // Sync output and channels: SynccardDialog_channels.cpp

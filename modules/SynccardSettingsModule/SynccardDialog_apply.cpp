@@ -20,7 +20,10 @@ enum SaveResult {
 
 } // namespace
 
-/** Copies what the widgets show into the record of card 0, while direct settings are shown for a card. */
+/**
+ * Copies the widgets' values into the record of card 0. Does nothing unless the mode is "direct settings" and a card
+ * and its channels are listed.
+ */
 void SynccardDialog::storeActualDirectSettingsToSynccardList()
 {
     const int rows = tableWidget_channels->rowCount();
@@ -40,14 +43,17 @@ void SynccardDialog::storeActualDirectSettingsToSynccardList()
         Channel* channel = card->channel(row);
         if (!channel)
             continue;
-        if (const auto* delayItem = tableWidget_channels->item(row, 1))
+        if (const auto* delayItem = tableWidget_channels->item(row, DelayColumn))
             channel->setDelay(delayItem->text());
-        if (const auto* idleItem = tableWidget_channels->item(row, 2))
+        if (const auto* idleItem = tableWidget_channels->item(row, IdleColumn))
             channel->setActiveDuringIdle(idleItem->checkState() == Qt::Checked);
     }
 }
 
-/** Writes the complete direct settings of card 1; stops at the first failure before the channels. */
+/**
+ * Writes the direct settings of card 1 and returns a SaveResult. Stops at the first failure; only a failed channel
+ * value lets it go on.
+ */
 int SynccardDialog::saveDirectSettings()
 {
     storeActualDirectSettingsToSynccardList();
@@ -101,7 +107,7 @@ int SynccardDialog::saveFrequencyOrDivisor(const Synccard& card)
     return Saved;
 }
 
-/** Writes delay and idle flag of every channel; a failure is reported and the next value follows. */
+/** Writes delay and idle flag of every channel. Reports each failure and goes on with the next value. */
 void SynccardDialog::saveChannels(const Synccard& card)
 {
     const int number = card.id() + 1;
@@ -131,7 +137,10 @@ int SynccardDialog::setSourceToHub(const QString& source)
     return 0;
 }
 
-/** True when the controller ends with the chosen output, whether it had it already or took it now. */
+/**
+ * Writes the chosen output if the controller offers it and does not use it yet. Returns true when the controller uses
+ * the chosen output at the end.
+ */
 bool SynccardDialog::setSyncOutputToHub()
 {
     if (!isProtocolAtLeast(1, 23))

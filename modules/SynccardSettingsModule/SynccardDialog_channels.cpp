@@ -10,19 +10,22 @@
 
 namespace {
 
-constexpr int rowHeight = 20;
+constexpr int rowHeight = 20;                  // pixels
+constexpr int defaultRowHeight = 28;           // pixels; every row that is shown gets rowHeight instead
+constexpr int initialChannelColumnWidth = 200; // pixels, until channels are listed
+constexpr int channelColumnWidth = 110;        // pixels
+constexpr int delayColumnWidth = 110;          // pixels
 constexpr double defaultMaximumDelayMilliseconds = 300.0;
-constexpr double microsecondsPerMillisecond = 1000.0;
 
-/** Whether a read left a delay that is finite in microseconds, too. */
+/** Like isRead(), for a delay that must stay finite when it is converted to microseconds. */
 bool isDelayRead(int result, const double& milliseconds)
 {
-    return isRead(result, milliseconds) && qIsFinite(milliseconds * microsecondsPerMillisecond);
+    return isRead(result, milliseconds) && qIsFinite(milliseconds * Channel::microsecondsPerMillisecond);
 }
 
 QString microseconds(double milliseconds, int decimals)
 {
-    return QString::number(milliseconds * microsecondsPerMillisecond, 'f', decimals);
+    return QString::number(milliseconds * Channel::microsecondsPerMillisecond, 'f', decimals);
 }
 
 } // namespace
@@ -68,19 +71,19 @@ void SynccardDialog::on_comboBox_output_currentIndexChanged(int /*idx*/)
 void SynccardDialog::setup_tableWidget_channels()
 {
     tableWidget_channels->verticalHeader()->hide();
-    tableWidget_channels->setColumnCount(4);
-    tableWidget_channels->horizontalHeader()->resizeSection(0, 200);
+    tableWidget_channels->setColumnCount(ChannelColumnCount);
+    tableWidget_channels->horizontalHeader()->resizeSection(ChannelColumn, initialChannelColumnWidth);
     tableWidget_channels->horizontalHeader()->setStretchLastSection(true);
     tableWidget_channels->setRowCount(0);
     tableWidget_channels->setHorizontalHeaderLabels(
         {tr("Channel"), tr("Delay [us]"), tr("Active during idle"), tr("Max delay")});
-    tableWidget_channels->verticalHeader()->setDefaultSectionSize(28);
-    // The style's own minimum, by font 21 pixels or more, would overrule the rows' 20.
+    tableWidget_channels->verticalHeader()->setDefaultSectionSize(defaultRowHeight);
+    // The style's own minimum, 21 pixels or more depending on the font, would make the rows taller than rowHeight.
     tableWidget_channels->verticalHeader()->setMinimumSectionSize(rowHeight);
     tableWidget_channels->horizontalHeader()->setSectionsClickable(false);
     tableWidget_channels->setSelectionMode(QAbstractItemView::NoSelection);
-    tableWidget_channels->setItemDelegateForColumn(1, &doubleSpinboxDelegate);
-    tableWidget_channels->setColumnHidden(3, true);
+    tableWidget_channels->setItemDelegateForColumn(DelayColumn, &doubleSpinboxDelegate);
+    tableWidget_channels->setColumnHidden(MaximumDelayColumn, true);
 }
 
 void SynccardDialog::update_tableWidget_channels()
@@ -99,20 +102,21 @@ void SynccardDialog::update_tableWidget_channels()
         reportError(cm, QStringLiteral("Error: Unable to get max output delay from synccard 1"));
         maximumDelay = defaultMaximumDelayMilliseconds;
     }
-    const auto* card = tableWidget_synccards->item(tableWidget_synccards->currentRow(), 0);
+    const auto* card = tableWidget_synccards->item(tableWidget_synccards->currentRow(), ModelColumn);
     const bool hasFixedIdle = card && card->data(Qt::UserRole).toString() == QLatin1String("0x0301");
     const Qt::ItemFlags idleFlags =
         hasFixedIdle ? Qt::ItemFlags(Qt::ItemIsUserCheckable) : Qt::ItemIsUserCheckable | Qt::ItemIsEnabled;
     const QString maximumText = microseconds(maximumDelay, 1);
-    const QSignalBlocker blocker(tableWidget_channels); // four changes a row that nobody needs
+    // Each row would signal four cell changes that nobody needs.
+    const QSignalBlocker blocker(tableWidget_channels);
     tableWidget_channels->setRowCount(boundedCount(channels));
     for (int row = 0; row < tableWidget_channels->rowCount(); ++row)
         show_channel(row, maximumText, idleFlags);
-    tableWidget_channels->setColumnWidth(0, 110);
-    tableWidget_channels->setColumnWidth(1, 110);
+    tableWidget_channels->setColumnWidth(ChannelColumn, channelColumnWidth);
+    tableWidget_channels->setColumnWidth(DelayColumn, delayColumnWidth);
 }
 
-/** The items get their properties before the table gets the items: each later change would signal a cell change. */
+/** Sets each item's properties before the table gets it. Once it is in the table, each one would signal a change. */
 void SynccardDialog::show_channel(int row, const QString& maximumDelay, Qt::ItemFlags idleFlags)
 {
     const int channel = row + 1;
@@ -124,14 +128,14 @@ void SynccardDialog::show_channel(int row, const QString& maximumDelay, Qt::Item
     auto* channelItem = new QTableWidgetItem(QString::number(channel));
     channelItem->setFlags(Qt::ItemIsEnabled);
 
-    tableWidget_channels->setItem(row, 0, channelItem);
-    tableWidget_channels->setItem(row, 1, delayItem);
-    tableWidget_channels->setItem(row, 2, idleItem);
-    tableWidget_channels->setItem(row, 3, new QTableWidgetItem(maximumDelay));
+    tableWidget_channels->setItem(row, ChannelColumn, channelItem);
+    tableWidget_channels->setItem(row, DelayColumn, delayItem);
+    tableWidget_channels->setItem(row, IdleColumn, idleItem);
+    tableWidget_channels->setItem(row, MaximumDelayColumn, new QTableWidgetItem(maximumDelay));
     tableWidget_channels->setRowHeight(row, rowHeight);
 }
 
-/** The channel's output delay in milliseconds; 0 when it cannot be read. */
+/** The channel's output delay in milliseconds ("synccard output_delay"); 0 when it cannot be read. */
 double SynccardDialog::read_delay(int channel)
 {
     double delay = 0.0;

@@ -12,12 +12,15 @@
 
 namespace {
 
+constexpr int rowHeight = 28;                // pixels
+constexpr int initialModelColumnWidth = 200; // pixels, until cards are listed
+constexpr int modelColumnWidth = 165;        // pixels
 constexpr double defaultFrequencyHz = 60.0;
 constexpr double minimumInternalFrequencyHz = 10.0;
 constexpr int defaultMaximumDivisor = 100;
 constexpr int fixedDivisor = 2;
 
-/** The number a serial token begins with; not \a ok when it begins with none, or with one beyond 64 bits. */
+/** The number at the beginning of a serial. \a ok becomes false when there is none or it exceeds 64 bits. */
 qlonglong leadingNumber(const QByteArray& token, bool* ok)
 {
     qlonglong number = 0;
@@ -27,37 +30,22 @@ qlonglong leadingNumber(const QByteArray& token, bool* ok)
 
 } // namespace
 
-int SynccardDialog::update_and_exec_prot_version_0_13()
-{
-    if (!update_tableWidget_synccards())
-        return -1;
-    bUserAction = false;
-    const int modesResult = update_comboBox_modes();
-    if (modesResult != 0)
-        return modesResult;
-    updateControlsDirectSettings();
-    storePreviousSettings();
-    bUserAction = true;
-    bSomethingChanged = false;
-    return exec_with_poll();
-}
-
 void SynccardDialog::setup_tableWidget_synccards()
 {
     tableWidget_synccards->verticalHeader()->hide();
-    tableWidget_synccards->setColumnCount(2);
-    tableWidget_synccards->horizontalHeader()->resizeSection(0, 200);
+    tableWidget_synccards->setColumnCount(CardColumnCount);
+    tableWidget_synccards->horizontalHeader()->resizeSection(ModelColumn, initialModelColumnWidth);
     tableWidget_synccards->horizontalHeader()->setStretchLastSection(true);
     tableWidget_synccards->setRowCount(0);
     tableWidget_synccards->setHorizontalHeaderLabels({tr("Model"), tr("Serial")});
-    tableWidget_synccards->verticalHeader()->setDefaultSectionSize(28);
+    tableWidget_synccards->verticalHeader()->setDefaultSectionSize(rowHeight);
     tableWidget_synccards->horizontalHeader()->setSectionsClickable(false);
     tableWidget_synccards->setSelectionMode(QAbstractItemView::NoSelection);
     tableWidget_synccards->setSelectionBehavior(QAbstractItemView::SelectRows);
     tableWidget_synccards->setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
 
-/** Lists all cards; false when one of them, or their number, cannot be read. */
+/** Lists all cards. Returns false when their number or one of the cards cannot be read. */
 bool SynccardDialog::update_tableWidget_synccards()
 {
     int cards = 0;
@@ -71,12 +59,12 @@ bool SynccardDialog::update_tableWidget_synccards()
             return false;
     }
     if (tableWidget_synccards->rowCount() > 0)
-        tableWidget_synccards->setCurrentCell(0, 0);
-    tableWidget_synccards->setColumnWidth(0, 165);
+        tableWidget_synccards->setCurrentCell(0, ModelColumn);
+    tableWidget_synccards->setColumnWidth(ModelColumn, modelColumnWidth);
     return true;
 }
 
-/** Puts the card on top of the table, which so ends with card 1. */
+/** Inserts the card as the first row, so card 1 ends up in the last row. Returns false when it cannot be read. */
 bool SynccardDialog::add_card(int number)
 {
     TextAnswer record;
@@ -97,17 +85,18 @@ bool SynccardDialog::add_card(int number)
 
     auto* modelItem = new QTableWidgetItem(description.text().remove(QLatin1Char('"')));
     modelItem->setData(Qt::UserRole, model);
-    // No QStringLiteral: its text lies in the plug-in, and the style keeps what it painted last beyond unloading.
+    // No QStringLiteral: its text lies in the plug-in's memory. The style still keeps the text it painted last after
+    // the host has unloaded the plug-in.
     auto* serialItem = new QTableWidgetItem(hasSerial ? serial : QString(QLatin1Char('-')));
     serialItem->setTextAlignment(Qt::AlignCenter);
     serialItem->setData(Qt::UserRole, serialNumber);
     tableWidget_synccards->insertRow(0);
-    tableWidget_synccards->setItem(0, 0, modelItem);
-    tableWidget_synccards->setItem(0, 1, serialItem);
+    tableWidget_synccards->setItem(0, ModelColumn, modelItem);
+    tableWidget_synccards->setItem(0, SerialColumn, serialItem);
     return true;
 }
 
-/** The source comes first: output, frequency and divisor depend on the one it selects. */
+/** Updates the source first, because output, frequency and divisor depend on the selected source. */
 void SynccardDialog::updateControlsDirectSettings()
 {
     update_comboBox_source();
@@ -212,7 +201,7 @@ void SynccardDialog::show_external_divisor(const QString& source)
             cm, QStringLiteral("Error: Unable to get maximum external divisor from synccard 1 with %2").arg(source));
         maximum = 1;
     }
-    // A divisor that cannot change is shown but not offered.
+    // A divisor with only one possible value is shown, but disabled.
     const bool isFixed = maximum <= minimum;
     label_externalDivisor->setDisabled(isFixed);
     if (isFixed || !m_is_config_locked)

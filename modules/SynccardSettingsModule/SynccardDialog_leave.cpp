@@ -8,7 +8,7 @@
 #include <QPointer>
 #include <QTimer>
 
-/** Notes the settings in force, for Cancel; without a current card an earlier note stays. */
+/** Keeps the current settings for Cancel to restore. Without a current card the earlier ones stay. */
 void SynccardDialog::storePreviousSettings()
 {
     if (!hasCurrentCard())
@@ -47,7 +47,7 @@ void SynccardDialog::reject()
     done(Rejected);
 }
 
-/** What both exits begin with: no poll and no change mark while they talk to the controller. */
+/** OK and Cancel begin with this: while they send commands, no poll may run and no widget may mark a change. */
 void SynccardDialog::startLeaving()
 {
     if (timer->isActive())
@@ -65,11 +65,11 @@ bool SynccardDialog::applyMode()
     return false;
 }
 
-/** Shows the one warning box. False when the dialog died with its parent while the box was open. */
+/** Shows the warning box. Returns false when the dialog was deleted, with its parent, while the box was open. */
 bool SynccardDialog::warnOfFailedChange()
 {
     const QPointer<SynccardDialog> self(this);
-    // On the heap: the dialog, its parent, may take the box along.
+    // On the heap, because the dialog owns the box: a dialog that is deleted meanwhile deletes the box too.
     const QPointer<QMessageBox> box(new QMessageBox(
         QMessageBox::Critical, tr("Warning"), tr("Error occured while performing the change"), QMessageBox::Ok, this));
     box->exec();
@@ -77,7 +77,10 @@ bool SynccardDialog::warnOfFailedChange()
     return !self.isNull();
 }
 
-/** Puts back the source, written while the dialog was open, and the frequency or divisor that may have moved along. */
+/**
+ * Restores the source, which was written while the dialog was open, and then the frequency or the divisor, which may
+ * have changed with it. Does nothing unless the dialog was opened with direct settings and still shows them.
+ */
 void SynccardDialog::restorePreviousSettings()
 {
     const Synccard* current = synccards.getSynccard(0);
@@ -98,7 +101,7 @@ void SynccardDialog::restorePreviousSettings()
     }
 }
 
-/** False when the card does not offer the source any more, or does not say: then nothing more is restored. */
+/** Returns false, so that nothing more is restored, when the card no longer offers the source or the query fails. */
 bool SynccardDialog::restoreSource(const QString& source)
 {
     const QByteArray keyword = source.toLatin1();

@@ -4,6 +4,13 @@
 #include "answers.h"
 #include "reporterror.h"
 
+namespace {
+
+constexpr int partAfterQuotes = 2; // of a text split at its quotes: 0 is before them, 1 between them
+constexpr int activeModeWord = 4;  // counted from 0: "zorvan2 get synccard active_mode MODE"
+
+} // namespace
+
 int SynccardDialog::update_and_exec_prot_version_0_8()
 {
     if (!update_legacy_card())
@@ -17,7 +24,7 @@ int SynccardDialog::update_and_exec_prot_version_0_8()
     return exec_with_poll();
 }
 
-/** Shows the one card of a legacy controller; the sync-input labels disappear for the dialog's lifetime. */
+/** Shows the one card of a legacy controller. Hides the sync-input labels, which no later opening shows again. */
 bool SynccardDialog::update_legacy_card()
 {
     tableWidget_synccards->setRowCount(0);
@@ -32,12 +39,15 @@ bool SynccardDialog::update_legacy_card()
         reportError(cm, QStringLiteral("Error: Unable to get Synccard device info"));
         return false;
     }
-    const QString serial = result.text().section(QLatin1Char('"'), 2, 2).simplified().section(QLatin1Char(' '), 0, 0);
+    const QString serial = result.text()
+                               .section(QLatin1Char('"'), partAfterQuotes, partAfterQuotes)
+                               .simplified()
+                               .section(QLatin1Char(' '), 0, 0);
     auto* serialItem = new QTableWidgetItem(serial);
     serialItem->setTextAlignment(Qt::AlignCenter);
     tableWidget_synccards->insertRow(0);
-    tableWidget_synccards->setItem(0, 0, new QTableWidgetItem(result.quoted()));
-    tableWidget_synccards->setItem(0, 1, serialItem);
+    tableWidget_synccards->setItem(0, ModelColumn, new QTableWidgetItem(result.quoted()));
+    tableWidget_synccards->setItem(0, SerialColumn, serialItem);
     return true;
 }
 
@@ -56,7 +66,7 @@ int SynccardDialog::update_comboBox_modes()
     return 0;
 }
 
-/** Lists the predefined modes; a mode that cannot be read is left out. False when their number is unknown. */
+/** Lists the predefined modes that can be read. Returns false when the number of modes cannot be read. */
 bool SynccardDialog::list_modes()
 {
     comboBox_modes->clear();
@@ -92,7 +102,7 @@ bool SynccardDialog::read_active_mode(QString* mode)
         reportError(cm, QStringLiteral("Error: Unable to get Synccard active mode"));
         return false;
     }
-    *mode = result.text().section(QLatin1Char(' '), 4, 4);
+    *mode = result.text().section(QLatin1Char(' '), activeModeWord, activeModeWord);
     return true;
 }
 

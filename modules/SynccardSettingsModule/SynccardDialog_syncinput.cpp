@@ -29,7 +29,7 @@ void SynccardDialog::poll_input_frequency()
             const QString answer = input_frequency.text();
             sSource = answer.section(QLatin1Char(' '), 0, 0);
             sFrequency = answer.section(QLatin1Char(' '), 1, 1);
-            // Without a frequency a quoted text says why.
+            // When there is no frequency, the controller answers "-" and the reason in quotes.
             if (sFrequency == QLatin1String("-"))
                 sFrequency = answer.section(QLatin1Char(' '), 2).remove(QLatin1Char('"'));
         }

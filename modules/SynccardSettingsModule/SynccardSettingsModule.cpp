@@ -14,14 +14,14 @@ constexpr int menuEntryOrderNumber = 130;
 
 SynccardSettingsModule::SynccardSettingsModule()
 {
-    // A host's own record need not begin with null pointers.
+    // The plug-in may be built against a host's own ModuleInterface.h, whose record may leave its pointers unset.
     gui_synccardsettings.content = nullptr;
     gui_synccardsettings.menu_entry = nullptr;
 }
 
 SynccardSettingsModule::~SynccardSettingsModule()
 {
-    // A host that forgot exit_module() would otherwise keep a dialog whose code it may unload.
+    // A host may forget exit_module(). The dialog must not stay behind when the host then unloads the plug-in.
     SynccardSettingsModule::exit_module();
 }
 
@@ -63,7 +63,7 @@ void SynccardSettingsModule::create_dialog()
 {
     auto* dialog = new SynccardDialog(iom, mod_parent, beVers);
     gui_synccardsettings.content = dialog;
-    // The dialog is the host's widget's child: it may die before exit_module().
+    // The host's widget is the dialog's parent and may delete it before exit_module().
     connect(dialog, &QObject::destroyed, this, [this] { gui_synccardsettings.content = nullptr; });
 }
 

@@ -7,8 +7,8 @@
 #include <QObject>
 
 /**
- * The plug-in's one object: takes the host's values, builds the synccard dialog with its menu entry, and ends it.
- * The host owns the object; it owns the dialog, and as Qt parent the action.
+ * The plug-in's one object. It takes the host's values, creates the synccard dialog with its menu entry, and deletes
+ * the dialog at the end. The host owns the module object; the module object owns the dialog and the action.
  */
 class SynccardSettingsModule : public QObject, public ModuleInterface
 {

@@ -10,13 +10,13 @@ template <int Size>
 class Answer
 {
 public:
-    /** The buffer, to hand to the channel; it stays this object's. */
+    /** The buffer that the channel writes the answer into. This object owns it. */
     char* buffer() { return characters; }
 
-    /** The answer as sent: the controller's texts are Latin-1. */
+    /** The whole answer. The controller sends Latin-1. */
     QString text() const { return latin1(); }
 
-    /** The text between the first and the second double quote, or behind the only one; empty without any. */
+    /** The text between the first two double quotes; with only one, the text after it; with none, an empty text. */
     QString quoted() const
     {
         const char* const end = characters + length();
@@ -24,7 +24,7 @@ public:
         return open == end ? QString() : between(open + 1, std::find(open + 1, end, '"'));
     }
 
-    /** The white-space separated word at \a index, counted from 0; empty when there are fewer. */
+    /** The word at \a index, counted from 0, words being separated by white space; empty when there are fewer words. */
     QString word(int index) const
     {
         const auto isSpace = [](char c) { return QChar::isSpace(static_cast<uchar>(c)); };
@@ -35,7 +35,7 @@ public:
         return between(begin, std::find_if(begin, end, isSpace));
     }
 
-    /** True only when "yes" is the whole answer. */
+    /** True only when the whole answer is "yes". */
     bool isYes() const { return latin1() == QLatin1String("yes"); }
 
 private:
@@ -50,20 +50,22 @@ private:
 };
 
 using TextAnswer = Answer<200>;
-using OutputAnswer = Answer<100>; // "synccard output d01" before an output change
-using FlagAnswer = Answer<16>;    // "synccard has_input_frequency" of a poll
+using OutputAnswer = Answer<100>; // to "synccard output d01", read before OK writes the output
+using FlagAnswer = Answer<16>;    // to "synccard has_input_frequency", read by each poll
 
 /**
- * Whether a read, ended with \a result, left a usable \a value: a number that is not finite counts as not read.
- * By reference, so that the read may stand in the same call: `isRead(cm->getParameterDouble(&hz, "..."), hz)`.
+ * Whether a read that returned \a result succeeded with a finite \a value.
+ * \a value is a reference because the call may contain the read: `isRead(cm->getParameterDouble(&hz, "..."), hz)`.
  */
 inline bool isRead(int result, const double& value)
 {
     return result == 0 && qIsFinite(value);
 }
 
-/** A count of cards, modes or channels, 0 to 999: a broken controller must not freeze the desktop. */
+constexpr int maximumCount = 999;
+
+/** Limits a count of cards, modes or channels to 0 to 999, so that a broken controller cannot freeze the desktop. */
 inline int boundedCount(int count)
 {
-    return qBound(0, count, 999);
+    return qBound(0, count, maximumCount);
 }

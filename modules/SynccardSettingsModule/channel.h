@@ -6,6 +6,9 @@
 class Channel
 {
 public:
+    /** The user edits delays in microseconds; commands carry milliseconds. */
+    static constexpr double microsecondsPerMillisecond = 1000.0;
+
     Channel() = default;
 
     /** The output delay in milliseconds ("synccard output_delay"). */
@@ -14,15 +17,15 @@ public:
     /** Whether the output stays active while the system is idle ("synccard output_during_idle"). */
     bool activeDuringIdle() const { return bActiveDuringIdle; }
 
-    /** Takes the delay in milliseconds; no range check. */
+    /** Sets the delay in milliseconds, without a range check. */
     void setDelay(double delay) { dDelay = delay; }
 
-    /** Takes the text of a delay cell, microseconds with a decimal point; 0 when the text is no number. */
+    /** Sets the delay from the text of its cell, microseconds with a decimal point; 0 when the text is no number. */
     void setDelay(const QString& text)
     {
         bool isNumber = false;
         const double microseconds = text.toDouble(&isNumber);
-        dDelay = isNumber ? microseconds / 1000.0 : 0.0;
+        dDelay = isNumber ? microseconds / microsecondsPerMillisecond : 0.0;
     }
 
     void setActiveDuringIdle(bool active) { bActiveDuringIdle = active; }

@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr int maximumColumn = 3;
 constexpr double stepMicroseconds = 100.0;
 
 } // namespace
@@ -24,7 +23,7 @@ void DoubleSpinboxDelegate::setEditorData(QWidget* editor, const QModelIndex& in
     if (!spinBox)
         return;
     const double delay = index.data().toString().toDouble();
-    const double maximum = index.sibling(index.row(), maximumColumn).data().toString().toDouble();
+    const double maximum = index.sibling(index.row(), MaximumDelayColumn).data().toString().toDouble();
     spinBox->setMinimum(0.0);
     spinBox->setMaximum(maximum);
     spinBox->setDecimals(0);

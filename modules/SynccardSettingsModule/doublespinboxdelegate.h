@@ -2,9 +2,12 @@
 
 #include <QItemDelegate>
 
+/** The columns of the channel table, from left to right. MaximumDelayColumn is hidden. */
+enum ChannelTableColumn { ChannelColumn, DelayColumn, IdleColumn, MaximumDelayColumn, ChannelColumnCount };
+
 /**
- * Edits a channel's delay in place: whole microseconds in steps of 100, from 0 to the maximum that stands, as text,
- * in column 3 of the same row. The view owns and deletes the editors.
+ * Edits a channel's delay in its cell: whole microseconds in steps of 100, from 0 to the number that the same row shows
+ * in MaximumDelayColumn. The view owns and deletes the editors.
  */
 class DoubleSpinboxDelegate : public QItemDelegate
 {
@@ -16,6 +19,6 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
 
-    /** Stores the editor's value into \a model as fixed-point text without decimals. */
+    /** Writes the editor's value into \a model, as text without decimals. */
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 };

@@ -2,14 +2,14 @@
 
 #include <QCoreApplication>
 
-/** A value the controller knows by its keyword and the user by its description, translated in SynccardDialog. */
+/** One choice of a selector. Commands carry its keyword; the user reads its description, translated by the dialog. */
 struct Choice
 {
     const char* keyword;
     const char* description;
 };
 
-/** The sync sources in the order they are offered; the last one from protocol 1.15 on. */
+/** The sync sources in the order they are offered; "ttlboth" only from protocol 1.15 on. */
 constexpr Choice syncSources[] = {
     {"internal", QT_TRANSLATE_NOOP("SynccardDialog", "internal generated signal")},
     {"video", QT_TRANSLATE_NOOP("SynccardDialog", "external video signal")},

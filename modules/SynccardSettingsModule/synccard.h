@@ -7,7 +7,7 @@
 
 /**
  * The direct settings of one synccard. A record of values only; it owns its channels and is not copied.
- * Cards and channels count from 0 here and from 1 in commands: card 0 is "d01", position 0 of the channels "ch01".
+ * Cards and channels count from 0 here and from 1 in commands: card 0 is "d01", channel 0 is "ch01".
  */
 class Synccard
 {
@@ -22,7 +22,7 @@ public:
 
     int id() const { return iId; }
 
-    /** The identifier of the active mode, or "direct settings". */
+    /** The identifier of the active mode ("synccard active_mode"), or "direct settings". */
     QString activeMode() const { return sActiveMode; }
 
     /** The sync source's keyword, such as "internal" ("synccard source"). */
@@ -31,12 +31,12 @@ public:
     /** The internal frequency in Hz ("synccard internal_frequency"). */
     double frequency() const { return dFrequency; }
 
-    /** The divisor for an external signal ("synccard external_divisor"). */
+    /** The divisor of an external sync signal ("synccard external_divisor"). */
     int externalDivisor() const { return iExternalDivisor; }
 
     int channelsCount() const { return channels.size(); }
 
-    /** The channel at \a index, still owned by the card; null outside 0 to channelsCount() - 1. */
+    /** The channel at \a index, which the card keeps; null when \a index is outside 0 to channelsCount() - 1. */
     Channel* channel(int index) const { return channels.value(index, nullptr); }
 
     void setActiveMode(const QString& mode) { sActiveMode = mode; }
@@ -44,7 +44,7 @@ public:
     void setFrequency(double frequency) { dFrequency = frequency; }
     void setExternalDivisor(int divisor) { iExternalDivisor = divisor; }
 
-    /** Appends \a channel, allocated with new, and takes ownership. */
+    /** Appends \a channel and takes ownership; it must be allocated with new. */
     void addChannel(Channel* channel) { channels.append(channel); }
 
 private:

@@ -12,10 +12,10 @@ public:
     ~SynccardList() { clear(); }
     Q_DISABLE_COPY(SynccardList)
 
-    /** Appends \a card, allocated with new, and takes ownership. */
+    /** Appends \a card and takes ownership; it must be allocated with new. */
     void add(Synccard* card) { synccards.append(card); }
 
-    /** Deletes all records; pointers handed out before are dead then. */
+    /** Deletes all records, so that every pointer to one of them becomes invalid. */
     void clear()
     {
         while (!synccards.isEmpty())
@@ -24,10 +24,10 @@ public:
 
     int size() const { return synccards.size(); }
 
-    /** The record at \a position, which the caller has checked to lie in 0 to size() - 1. */
+    /** The record at \a position, which must be in 0 to size() - 1. The list keeps it. */
     Synccard* at(int position) const { return synccards.at(position); }
 
-    /** The first record with the id \a id, still owned by the list; null when there is none. */
+    /** The first record with the id \a id, which the list keeps; null when there is none. */
     Synccard* getSynccard(int id) const
     {
         for (Synccard* card : synccards) {
