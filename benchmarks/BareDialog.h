@@ -6,8 +6,9 @@
 #include <QDialog>
 
 /**
- * The same form without a controller: filled with the values of a workload by straight toolkit calls, in the usual way:
- * a row inserted at a time, an item's properties set when it is in its table, the slots connected.
+ * The module's form without a controller: fill() shows the values of a workload by direct toolkit calls. It works the
+ * usual way: it inserts one row at a time, sets an item's properties once the item is in its table, and leaves the
+ * slots connected.
  */
 class BareDialog : public QDialog, public Ui::synccarddialog
 {
@@ -36,7 +37,8 @@ private:
     void fillSettings();
     void fillChannels(int channels);
 
-    QStringList modeIds; // ready-made, so that making them counts for neither side
+    // Made in advance, so that the time of an opening does not include making them.
+    QStringList modeIds;
     QStringList modeTexts;
     bool isUserAction = false;
     bool hasChanged = false;

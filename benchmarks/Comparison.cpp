@@ -83,6 +83,6 @@ QString Comparison::difference() const
             return QString("the module shows '%1', the bare dialog '%2'").arg(moduleLines.value(i), bareLines.value(i));
     }
     if (channel.reports > 0)
-        return "the module reports errors";
-    return modulePicture == barePicture ? QString() : "their pictures differ";
+        return "the module reports errors to the host";
+    return modulePicture == barePicture ? QString() : "the pictures of the module and the bare dialog differ";
 }

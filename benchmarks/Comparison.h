@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-/** The module's dialog and the bare one, for one workload. */
+/** Holds the module's dialog and the bare dialog, so that both can show the same workload. */
 class Comparison
 {
 public:
@@ -18,22 +18,26 @@ public:
 
     explicit Comparison(const Workload& workload);
 
-    /** Ends both dialogs, so that they can be constructed anew. */
+    /** Deletes both dialogs. The next two functions construct them again. */
     void destruct();
     void constructModule();
     void constructBare();
 
-    /** Fills and opens the module's dialog and, once it is up, takes \a inside and ends it. */
+    /** Opens the module's dialog, runs \a inside as soon as the dialog is open, then closes the dialog. */
     void openModule(const Steps& inside = nullptr) const;
+    /** Does the same with the bare dialog, which it fills first. */
     void openBare(const Steps& inside = nullptr) const;
 
-    /** Runs one of the slots of the module's dialog. */
+    /** Calls a slot of the module's dialog by its name. */
     void call(const char* slot) const;
 
-    /** How many commands \a steps send. */
+    /** Runs \a steps and returns the number of commands that the module sends meanwhile. */
     int commandsOf(const Steps& steps) const;
 
-    /** Why the two cannot be compared: a line that both show differently, a picture; empty when they are the same. */
+    /**
+     * The first reason why the dialogs cannot be compared: they show different texts, the module reports errors, or
+     * their pictures differ. Empty when there is none.
+     */
     QString difference() const;
 
     WorkloadChannel channel;
@@ -44,7 +48,7 @@ private:
     QWidget parent;
 
 public:
-    std::unique_ptr<BareDialog> bare; // its parent's child, so it goes first
+    std::unique_ptr<BareDialog> bare; // declared after its parent widget, so that it is deleted before it
 
 private:
     ModuleLoader loader;

@@ -2,18 +2,18 @@
 
 #include <QString>
 
-/** What the measuring says: a table on standard output, and on standard error what must not be. */
+/** Prints the measurements to standard output and each failed expectation to standard error. */
 class Report
 {
 public:
-    void line(const QString& text);
-    /** One row of the table: both times in microseconds, their ratio, and the goal for it. */
+    /** Prints a row of the table: both times in microseconds, their ratio, and the goal for the ratio. */
     void row(const QString& what, double module, double bare, const QString& goal);
-    /** A row for what has no bare counterpart. */
+    /** Prints a row for an operation that the bare dialog does not have. The time is in microseconds. */
     void row(const QString& what, double module);
 
-    /** Without \a condition the program ends with status 1. */
+    /** When \a condition is false, prints \a otherwise to standard error and marks the run as failed. */
     void demand(bool condition, const QString& otherwise);
+    /** Whether an expectation failed; the program then ends with status 1. */
     bool hasProblem() const { return problem; }
 
 private:

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-/** How long \a work takes, in microseconds. */
+/** Runs \a work and returns how long it takes, in microseconds. */
 template <typename Work>
 double microsecondsOf(Work work)
 {
@@ -16,6 +16,7 @@ double microsecondsOf(Work work)
     return static_cast<double>(timer.nsecsElapsed()) / 1000.0;
 }
 
+/** The middle one of \a values, of which there must be at least one. */
 inline double median(QVector<double> values)
 {
     auto* const middle = values.begin() + values.size() / 2;
@@ -23,7 +24,10 @@ inline double median(QVector<double> values)
     return *middle;
 }
 
-/** The medians of both in microseconds; they take turns, and in turn go first, so that both meet the same machine. */
+/**
+ * The medians of \a first and \a second in microseconds. The two take turns, and each one goes first in every other
+ * round, so that both run under the same conditions. \a prepare runs before each round and is not measured.
+ */
 template <typename Prepare, typename First, typename Second>
 QPair<double, double> interleaved(int rounds, Prepare prepare, First first, Second second)
 {

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/** How much a controller offers, and what it says of each: both sides of a comparison show these values. */
+/** How many channels, modes and cards a controller offers. Both dialogs of a comparison show the same workload. */
 struct Workload
 {
     int channels;
@@ -10,16 +10,17 @@ struct Workload
     int cards;
 
     QString name() const { return QString("%1/%2/%3").arg(channels).arg(modes).arg(cards); }
-    /** What the opening of the dialog sends at protocol 1.23. */
+    /** The number of commands that an opening sends at protocol 1.23. */
     int openingCommands() const { return 20 + 2 * (channels + modes + cards); }
-    /** What OK sends after a change of the frequency. */
+    /** The number of commands that OK sends after a change of the frequency. */
     int savingCommands() const { return 6 + 2 * channels; }
 };
 
-constexpr int sourceChangeCommands = 7; // to an external source
-constexpr int takingBackCommands = 3;   // Cancel after that
+constexpr int sourceChangeCommands = 7; // when the user selects an external source
+constexpr int takingBackCommands = 3;   // when Cancel takes that source back
 constexpr int pollCommands = 2;
 
+// The values that the controller answers and both dialogs show.
 constexpr double frequencyHz = 120.0;
 constexpr double maximumFrequencyHz = 500.0;
 constexpr int divisor = 3;

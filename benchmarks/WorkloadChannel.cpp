@@ -11,7 +11,7 @@ void answerText(char* answer, const char* text)
     std::strcpy(answer, text); // NOLINT(clang-analyzer-security.insecureAPI.strcpy): the texts of this file
 }
 
-/** Answers \a prefix, the number with three digits, and \a suffix. */
+/** Answers \a prefix, \a number with three digits, and \a suffix, without a space between them. */
 void answerNumber(char* answer, const char* prefix, int number, const char* suffix)
 {
     answerText(answer, prefix);
@@ -23,7 +23,7 @@ void answerNumber(char* answer, const char* prefix, int number, const char* suff
 
 } // namespace
 
-// The first argument behind the format.
+// Declares the constant 'name' and gives it the first argument after the format.
 // NOLINTBEGIN(bugprone-macro-parentheses): a type and a name cannot stand in parentheses
 #define FIRST_ARGUMENT(type, name)                                                                                     \
     va_list arguments;                                                                                                 \

@@ -3,7 +3,7 @@
 #include "IOManager.h"
 #include "Workload.h"
 
-/** A command channel that costs next to nothing: it recognises the format and answers without formatting anything. */
+/** A command channel that takes almost no time: it recognises each command by its format and formats nothing. */
 class WorkloadChannel : public IOManager
 {
 public:
@@ -18,9 +18,9 @@ public:
     void reportError(const char* category, const char* systemTag, int flag, const char* message) override;
 
     Workload workload;
-    int commands = 0;        // so far
-    int reports = 0;         // so far: one means that the comparison is none
-    bool alternates = false; // whether each poll measures another frequency
+    int commands = 0;        // number of commands so far
+    int reports = 0;         // number of error reports so far; a single one makes the comparison invalid
+    bool alternates = false; // whether each poll reads another frequency than the poll before
 
 private:
     bool isOtherFrequency = false;

@@ -2,7 +2,7 @@
 
 class Report;
 
-/** So many openings, and so many polls in a further one. */
+/** A number of openings, and a number of polls during one further opening. */
 struct HeapCycle
 {
     int openings;
@@ -10,7 +10,7 @@ struct HeapCycle
 };
 
 /**
- * Compares heap and widgets before and after \a cycles; some more go ahead to warm up. All are alike, because the
- * allocator's own roundings settle only under a load that repeats itself.
+ * Runs a few cycles to warm up, then \a cycles more, and demands that these change neither the heap in use nor the
+ * number of widgets. All cycles are the same, because the allocator needs a repeating load to settle.
  */
 void reportHeap(Report* report, int cycles, const HeapCycle& cycle);

@@ -1,19 +1,12 @@
 #pragma once
 
-#include "BackendVersions.h"
-#include "ControllerChannel.h"
-#include "Faults.h"
-#include "HostSetup.h"
+#include "Backend.h"
 #include "MainWindow.h"
 #include "ModuleLoader.h"
-#include "Recorder.h"
-#include "Replay.h"
-#include "SimulatedController.h"
 
-/**
- * A controller, the channel to it, the main window and the module in its menu. Commands go from the channel through
- * recorder and faults to the simulated controller, or to the recording that replaces it. Needs a QApplication.
- */
+#include <QDialog>
+
+/** The host: a controller, the main window, and the module in its menu. Needs a QApplication. */
 class DevelopmentHost
 {
 public:
@@ -27,30 +20,29 @@ public:
     bool restart(const ControllerState& state);
 
     /**
-     * Puts a state in force while the module stays loaded, or is loaded anew if the protocol crosses 0.13: a dialog
-     * shows what it began as for good. Returns why not, or an empty text.
+     * Puts \a state in force while the module stays loaded. A protocol on the other side of 0.13 loads it anew: a
+     * dialog that met a legacy controller keeps its labels hidden. Returns why not, or an empty text.
      */
     QString changeState(const ControllerState& state);
 
-    bool isReplaying() const { return !setup.replay.isEmpty(); }
+    /** The module's menu entry. Only after start(). */
+    const GuiElement& entry() const { return *loader.module()->get_gui_elements().constFirst(); }
+    /** The module's dialog. Only after start(). */
+    QDialog* dialog() const { return qobject_cast<QDialog*>(entry().content); }
+
+    MainWindow& window() { return mainWindow; }
+    Faults& faults() { return backend.faults(); }
+    const ControllerChannel& channel() { return backend.channel(); }
+    const BackendVersions& versions() { return backend.versions(); }
+    const SimulatedController& controller() const { return backend.controller(); }
+    const Replay& replay() const { return backend.replay(); }
+    bool isReplaying() const { return backend.isReplaying(); }
 
 private:
-    HostSetup setup;
+    bool placeModule();
+
     QString error;
-
-public:
-    SimulatedController controller;
-    Replay replay;
-    Faults faults;
-    Recorder recorder;
-    ControllerChannel channel;
-    BackendVersions versions;
-    MainWindow window;
+    Backend backend;
+    MainWindow mainWindow;
     ModuleLoader loader; // last: the module ends before what it was handed
-
-private:
-    bool openRecordings();
-    bool loadPlugin();
-    void placeModule();
-    void connectTo(const ControllerState& state);
 };

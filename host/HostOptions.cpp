@@ -1,22 +1,11 @@
 #include "HostOptions.h"
 
+#include "Console.h"
 #include "ControllerFile.h"
 #include "Faults.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QMap>
-
-#include <cstdio>
-
-namespace {
-
-void say(FILE* stream, const QString& text)
-{
-    static_cast<void>(std::fputs(qPrintable(text), stream));
-}
-
-} // namespace
 
 HostOptions::HostOptions(const QString& description)
 {
@@ -28,7 +17,7 @@ HostOptions::HostOptions(const QString& description)
     parser.addOption({"protocol", "Lets the controller speak protocol <version>, such as 0.12.7 or 1.23.", "version"});
     parser.addOption({"plugin", "Loads the module from <file>.", "file"});
     parser.addOption({"fail", "Fails every command that the regular expression <pattern> is found in.", "pattern"});
-    parser.addOption({"latency", "Lets each command take <ms> longer, 0 to 5000.", "ms"});
+    parser.addOption({"latency", "Lets each command take <ms> longer, 0 to 5000.", "ms", "0"});
     parser.addOption({"record", "Writes every command into <file>.", "file"});
     parser.addOption({"replay", "Answers from the recording <file> instead of a simulated controller.", "file"});
 }
@@ -37,19 +26,15 @@ bool HostOptions::parse(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     if (!parser.parse(QCoreApplication::arguments()))
-        return end(fail(parser.errorText() + " See --help."));
+        return refuse(parser.errorText() + " See --help.");
     if (!parser.positionalArguments().isEmpty())
-        return end(fail("Unexpected argument '" + parser.positionalArguments().constFirst() + "'. See --help."));
-    if (parser.isSet("help")) {
-        say(stdout, parser.helpText());
-        return end(0);
-    }
-    if (parser.isSet("version")) {
-        say(stdout, QCoreApplication::applicationName() + " " HOST_VERSION "\n");
-        return end(0);
-    }
+        return refuse("Unexpected argument '" + parser.positionalArguments().constFirst() + "'. See --help.");
+    if (parser.isSet("help"))
+        return endWith(parser.helpText().chopped(1), 0);
+    if (parser.isSet("version"))
+        return endWith(QCoreApplication::applicationName() + " " HOST_VERSION, 0);
     if (parser.isSet("list"))
-        return end(listControllers());
+        return listControllers();
     host.pluginFile = parser.value("plugin");
     host.record = parser.value("record");
     host.replay = parser.value("replay");
@@ -61,24 +46,22 @@ QString HostOptions::controllerFolder()
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../" CONTROLLER_DIR);
 }
 
-/** Prints name and description of each controller in the folder, unless one of the files is broken. */
-int HostOptions::listControllers()
+/** Lists name and description of each controller in the folder, unless one of the files is broken. */
+bool HostOptions::listControllers()
 {
-    QMap<QString, QString> descriptions;
-    int width = 0;
     const QFileInfoList files = QDir(controllerFolder()).entryInfoList({"*.json"}, QDir::Files | QDir::CaseSensitive);
+    int width = 0;
+    for (const QFileInfo& file : files)
+        width = qMax(width, file.completeBaseName().size());
+    QStringList lines;
     for (const QFileInfo& file : files) {
         ControllerState listed = ControllerState::builtIn();
         QString error;
         if (!readControllerFile(file.filePath(), &listed, &error))
-            return fail(error);
-        const QString name = file.completeBaseName();
-        descriptions[name] = listed.description;
-        width = qMax(width, name.size());
+            return refuse(error);
+        lines.append(file.completeBaseName().leftJustified(width) + "  " + listed.description);
     }
-    for (auto it = descriptions.constBegin(); it != descriptions.constEnd(); ++it)
-        say(stdout, it.key().leftJustified(width) + "  " + it.value() + '\n');
-    return files.isEmpty() ? fail(controllerFolder() + ": no controller files") : 0;
+    return lines.isEmpty() ? refuse(controllerFolder() + ": no controller files") : endWith(lines.join('\n'), 0);
 }
 
 bool HostOptions::readController()
@@ -89,9 +72,9 @@ bool HostOptions::readController()
     const bool isName = !wanted.contains('/') && !wanted.endsWith(".json");
     const QString file = isName ? controllerFolder() + '/' + wanted + ".json" : wanted;
     if (isName && !QFileInfo::exists(file))
-        return end(fail("--controller " + wanted + ": no such controller, see --list"));
+        return refuse("--controller " + wanted + ": no such controller, see --list");
     QString error;
-    return readControllerFile(file, &host.state, &error) || end(fail(error));
+    return readControllerFile(file, &host.state, &error) || refuse(error);
 }
 
 bool HostOptions::readProtocol()
@@ -100,46 +83,45 @@ bool HostOptions::readProtocol()
     bool isVersion = !parser.isSet("protocol");
     if (!isVersion)
         host.state.protocol.fromString(text, &isVersion);
-    return isVersion || end(fail("--protocol " + text + ": a version such as 1.23 or 1.23.0 is expected"));
+    return isVersion || refuse("--protocol " + text + ": a version such as 1.23 or 1.23.0 is expected");
 }
 
 bool HostOptions::readFaults()
 {
     host.failing.setPattern(parser.value("fail"));
     if (!host.failing.isValid())
-        return end(fail("--fail " + parser.value("fail") + ": " + host.failing.errorString()));
-    const QString text = parser.value("latency");
-    bool isLatency = !parser.isSet("latency");
-    if (!isLatency)
-        host.latency = text.toInt(&isLatency);
-    if (isLatency && host.latency >= 0 && host.latency <= Faults::maximumLatency)
-        return true;
-    return end(fail("--latency " + text + ": milliseconds from 0 to 5000 are expected"));
+        return refuse("--fail " + parser.value("fail") + ": " + host.failing.errorString());
+    bool isNumber = false;
+    host.latency = parser.value("latency").toInt(&isNumber);
+    const bool isTaken = isNumber && host.latency >= 0 && host.latency <= Faults::maximumLatency;
+    return isTaken || refuse("--latency " + parser.value("latency") + ": milliseconds from 0 to 5000 are expected");
 }
 
 bool HostOptions::checkRecordings()
 {
     for (const char* option : {"record", "replay"}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
-            return end(fail(QString("--%1: a file is expected").arg(QLatin1String(option))));
+            return refuse(QString("--%1: a file is expected").arg(QLatin1String(option)));
     }
     if (!parser.isSet("replay"))
         return true;
     if (parser.isSet("fail"))
-        return end(fail("--fail: a replay fails what was recorded as failed"));
+        return refuse("--fail: a replay fails what was recorded as failed");
     if (QFileInfo(host.record) == QFileInfo(host.replay))
-        return end(fail(host.record + ": --record would overwrite what --replay reads"));
+        return refuse(host.record + ": --record would overwrite what --replay reads");
     return true;
 }
 
-bool HostOptions::end(int exitStatus)
+bool HostOptions::endWith(const QString& text, int status)
 {
-    status = exitStatus;
+    itsEnding = {text, status};
     return false;
 }
 
-int HostOptions::fail(const QString& message)
+int endProgram(const Ending& ending)
 {
-    say(stderr, QCoreApplication::applicationName() + ": " + message + '\n');
-    return 2;
+    if (ending.status != 0)
+        return fail(ending.text);
+    print(ending.text);
+    return 0;
 }

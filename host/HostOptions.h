@@ -4,10 +4,17 @@
 
 #include <QCommandLineParser>
 
-/**
- * The command line of the host's programs, --help tells it, and what a program adds. Errors are one line on standard
- * error.
- */
+/** How a program ends before it has begun. */
+struct Ending
+{
+    QString text;
+    int status = 0;
+};
+
+/** Prints the ending's text, on standard error unless the status is 0, and returns the status. */
+int endProgram(const Ending& ending);
+
+/** Parses the command line of the host's programs, to which a program may add options. --help describes them. */
 class HostOptions
 {
 public:
@@ -18,26 +25,24 @@ public:
 
     /**
      * Reads the program's arguments, before there is a QApplication: that would take --plugin for its own and needs a
-     * display. False when the program shall end with exitStatus(): 0 after --help, --version and --list, 2 after a
-     * mistake.
+     * display. False when the program shall end with ending(): after --help, --version and --list, or with status 2
+     * after a mistake.
      */
     bool parse(int argc, char* argv[]);
-    int exitStatus() const { return status; }
+    const Ending& ending() const { return itsEnding; }
 
     QString value(const QString& option) const { return parser.value(option); }
 
     /** What the arguments say; without them the built-in controller and the plug-in beside the program. */
     const HostSetup& setup() const { return host; }
 
-    /** Where the controllers that have a name lie, a file NAME.json each. Needs a QCoreApplication. */
+    /** The folder of the named controllers, a file NAME.json each. Needs a QCoreApplication. */
     static QString controllerFolder();
 
-    /** Says \a message on standard error and returns the exit status 2. */
-    static int fail(const QString& message);
-
 private:
-    bool end(int exitStatus);
-    static int listControllers();
+    bool endWith(const QString& text, int status);
+    bool refuse(const QString& message) { return endWith(message, 2); }
+    bool listControllers();
     bool readController();
     bool readProtocol();
     bool readFaults();
@@ -45,5 +50,5 @@ private:
 
     QCommandLineParser parser;
     HostSetup host;
-    int status = 0;
+    Ending itsEnding;
 };

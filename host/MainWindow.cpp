@@ -1,6 +1,5 @@
 #include "MainWindow.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
@@ -8,11 +7,7 @@
 #include <QMenuBar>
 #include <QStyle>
 
-namespace {
-
-constexpr int margin = 24;
-
-} // namespace
+static constexpr int margin = 24;
 
 MainWindow::MainWindow()
 {
@@ -32,11 +27,6 @@ MainWindow::MainWindow()
     menu->addAction(tr("&Workbench"), this, &MainWindow::workbenchWanted, QKeySequence(tr("Ctrl+B")));
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
-}
-
-bool MainWindow::isMeasurementRunning() const
-{
-    return measurement->isChecked();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QAction>
 #include <QMainWindow>
 
-/** The development host's window with the menus. A module's dialog is modal to it and its like, not to the workbench.
- */
+/** The host's window with the menus. While a module's dialog is open, it blocks this window, but not the workbench. */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -11,7 +11,7 @@ class MainWindow : public QMainWindow
 public:
     MainWindow();
 
-    bool isMeasurementRunning() const;
+    bool isMeasurementRunning() const { return measurement->isChecked(); }
 
 signals:
     void measurementSwitched(bool isOn);

@@ -16,26 +16,26 @@ namespace {
 const char* const pluginIdentifier = "org.zorvan.Zorvan2.SnyccardSettingsModule";
 const char* const orderProperty = "orderNumber";
 
-/** The first of \a widget's actions whose order number is above \a order; null when the place is the end. */
-QAction* actionBehind(const QWidget* widget, int order)
+/** Inserts \a action into a menu or a menu bar, before those with a larger order number. */
+void insert(QWidget* menu, QAction* action, int order)
 {
-    const QList<QAction*> actions = widget->actions();
-    const auto isBehind = [order](const QAction* action) { return action->property(orderProperty).toInt() > order; };
-    const auto found = std::find_if(actions.begin(), actions.end(), isBehind);
-    return found == actions.end() ? nullptr : *found;
+    action->setProperty(orderProperty, order);
+    const QList<QAction*> actions = menu->actions();
+    const auto isBehind = [order](const QAction* other) { return other->property(orderProperty).toInt() > order; };
+    const auto next = std::find_if(actions.begin(), actions.end(), isBehind);
+    menu->insertAction(next == actions.end() ? nullptr : *next, action);
 }
 
 /** The menu \a title of \a menuBar, made at its place when there is none yet. */
 QMenu* menuFor(QMenuBar* menuBar, const QString& title, int order)
 {
     const QList<QAction*> actions = menuBar->actions();
-    const auto isIt = [&](const QAction* action) { return action->menu() && action->text() == title; };
-    const auto found = std::find_if(actions.begin(), actions.end(), isIt);
-    if (found != actions.end())
-        return (*found)->menu();
+    for (const QAction* action : actions) {
+        if (action->menu() && action->text() == title)
+            return action->menu();
+    }
     auto* menu = new QMenu(title, menuBar);
-    menu->menuAction()->setProperty(orderProperty, order);
-    menuBar->insertMenu(actionBehind(menuBar, order), menu);
+    insert(menuBar, menu->menuAction(), order);
     return menu;
 }
 
@@ -47,14 +47,9 @@ ModuleLoader::ModuleLoader(const QString& file) : file(QFileInfo(file).absoluteF
     loader.setLoadHints(QLibrary::LoadHints());
 }
 
-ModuleLoader::~ModuleLoader()
-{
-    unload();
-}
-
 QString ModuleLoader::defaultFile()
 {
-    return QCoreApplication::applicationDirPath() + "/../" MODULE_DIR "/libSynccardSettingsModule.so";
+    return QCoreApplication::applicationDirPath() + "/../" MODULE_DIR "/" MODULE_FILE;
 }
 
 bool ModuleLoader::load()
@@ -101,8 +96,7 @@ void ModuleLoader::placeElements(QMenuBar* menuBar)
     const QList<_GuiElement*> elements = interface->get_gui_elements();
     for (const GuiElement* element : elements) {
         QMenu* menu = menuFor(menuBar, element->menu_name, element->menu_order_number);
-        element->menu_entry->setProperty(orderProperty, element->menu_entry_order_number);
-        menu->insertAction(actionBehind(menu, element->menu_entry_order_number), element->menu_entry);
+        insert(menu, element->menu_entry, element->menu_entry_order_number);
     }
 }
 

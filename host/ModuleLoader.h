@@ -17,7 +17,7 @@ class ModuleLoader
 {
 public:
     explicit ModuleLoader(const QString& file);
-    ~ModuleLoader();
+    ~ModuleLoader() { unload(); }
     Q_DISABLE_COPY(ModuleLoader)
 
     /** Where the plug-in lies beside the running program, in the build tree as in an installation. */

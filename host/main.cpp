@@ -1,3 +1,4 @@
+#include "Console.h"
 #include "DevelopmentHost.h"
 #include "HostOptions.h"
 #include "Workbench.h"
@@ -5,19 +6,15 @@
 #include <QApplication>
 #include <QScreen>
 
-namespace {
-
-constexpr int margin = 40; // pixels
-constexpr int besideDialog = 480;
-constexpr int aboveMain = 220;
-
-} // namespace
+// Side by side, with room for the dialog, which opens over the main window; pixels.
+static constexpr QPoint workbenchPlace(520, 40);
+static constexpr QPoint mainPlace(40, 260);
 
 int main(int argc, char* argv[])
 {
     HostOptions options("A window with the synccard module's menu entry, in front of a simulated controller.");
     if (!options.parse(argc, argv))
-        return options.exitStatus();
+        return endProgram(options.ending());
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -25,14 +22,13 @@ int main(int argc, char* argv[])
     const QApplication application(programNameOnly, argv);
     DevelopmentHost host(options.setup());
     Workbench workbench(&host);
-    QObject::connect(&host.replay, &Replay::differed, &HostOptions::fail);
+    QObject::connect(&host.replay(), &Replay::differed, &fail);
     if (!host.start())
-        return HostOptions::fail(host.errorString());
-    // Side by side, with room for the dialog, which opens over the main window.
-    const QPoint corner = QGuiApplication::primaryScreen()->availableGeometry().topLeft() + QPoint(margin, margin);
-    workbench.move(corner + QPoint(besideDialog, 0));
+        return fail(host.errorString());
+    const QPoint corner = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
+    workbench.move(corner + workbenchPlace);
     workbench.show();
-    host.window.move(corner + QPoint(0, aboveMain));
-    host.window.show();
+    host.window().move(corner + mainPlace);
+    host.window().show();
     return QApplication::exec();
 }

@@ -20,7 +20,6 @@ private slots:
     void survivesEachFailure_data() { addSessions("failures.txt"); }
     void survivesEachFailure();
     void survivesGarbage();
-    void survivesTheHost();
 };
 
 namespace {
@@ -38,25 +37,24 @@ struct Run
     QStringList commands;
 };
 
-Run open(Bench& bench, const Session& session, const ScriptedChannel& channel)
+Run open(LoadedModule& module, const Session& session)
 {
     Run run;
-    bench.channel = channel;
-    bench.boxes.clear();
+    module.boxes.clear();
     // They keep what an earlier opening saw.
-    bench.find<QLabel>("label_inputSource")->clear();
-    bench.find<QLabel>("label_inputFrequency")->clear();
-    run.result = bench.open([&] {
-        run.opened = bench.channel.commands.size();
-        run.shown = textOfDialog(bench.dialog());
-        const bool isOff = bench.see("pushButton_Ok") == " off";
+    module.find<QLabel>("label_inputSource")->clear();
+    module.find<QLabel>("label_inputFrequency")->clear();
+    run.result = module.open([&] {
+        run.opened = module.link.commands.size();
+        run.shown = textOfDialog(module.dialog());
+        const bool isOff = module.see("pushButton_Ok") == " off";
         for (const QByteArray& action : isOff ? QByteArrayList() : session.value("user"))
-            act(bench, action);
-        run.left = bench.channel.commands.size();
+            act(module, action);
+        run.left = module.link.commands.size();
         run.way = isOff ? "Cancel" : session.value("leave").first();
-        bench.user().leave(run.way);
+        module.user().leave(run.way);
     });
-    for (const QByteArray& command : qAsConst(bench.channel.commands))
+    for (const QByteArray& command : qAsConst(module.link.commands))
         run.commands.append(command);
     return run;
 }
@@ -75,22 +73,22 @@ QStringList consequence(const QByteArrayList& table, const QString& command)
 }
 
 /** Holds reports, boxes and result of a run against what the table says of the commands that failed. */
-void compareRun(const Bench& bench, const SessionFile& table, const Run& run)
+void compareRun(const LoadedModule& module, const SessionFile& table, const Run& run)
 {
     QStringList effects;
     QByteArrayList reports;
-    for (const int command : bench.channel.failed) {
+    for (const int command : module.link.failed) {
         const QStringList found = consequence(table.lists.value(run.phase(command).toUtf8()), run.commands.at(command));
         effects.append(found.at(0));
         if (!found.at(1).isEmpty())
             reports.append(found.at(1).toUtf8());
     }
-    QCOMPARE(bench.channel.reports, reports);
+    QCOMPARE(module.link.reports, reports);
     const QByteArrayList warning = {"Warning: Error occured while performing the change"};
-    QCOMPARE(bench.boxes, effects.contains("box") ? warning : QByteArrayList());
+    QCOMPARE(module.boxes, effects.contains("box") ? warning : QByteArrayList());
     QCOMPARE(run.result, effects.contains("stops") ? -1 : run.way == "OK" ? 1 : 0);
     if (effects.contains("stops") || effects.contains("bare"))
-        QCOMPARE(bench.channel.failed.last(), run.commands.size() - 1);
+        QCOMPARE(module.link.failed.last(), run.commands.size() - 1);
 }
 
 } // namespace
@@ -99,21 +97,21 @@ void TestFaults::survivesEachFailure()
 {
     QFETCH(Session, session);
     const SessionFile table("failures.txt");
-    Bench bench(session.value("protocol").first(), session.value("answer").join(';'));
-    const ScriptedChannel channel = bench.channel;
-    const Run clean = open(bench, session, channel);
-    QVERIFY(bench.channel.failed.isEmpty() && bench.channel.reports.isEmpty() && bench.boxes.isEmpty());
+    LoadedModule module(session.value("protocol").first(), session.value("answer").join(';'));
+    const ScriptedLink::Answers answers = module.link.answers;
+    const Run clean = open(module, session);
+    QVERIFY(module.link.failed.isEmpty() && module.link.reports.isEmpty() && module.boxes.isEmpty());
     for (int i = 0; i < clean.commands.size(); ++i) {
         for (const int end : {i + 1, INT_MAX}) {
-            ScriptedChannel failing = channel;
-            failing.failBetween(i, end);
-            const Run run = open(bench, session, failing);
-            QVERIFY(bench.channel.failed.contains(i));
-            compareRun(bench, table, run);
-            const Run next = open(bench, {{"leave", {"Cancel"}}}, channel);
+            module.link.restart(answers, i, end);
+            const Run run = open(module, session);
+            QVERIFY(module.link.failed.contains(i));
+            compareRun(module, table, run);
+            module.link.restart(answers);
+            const Run next = open(module, {{"leave", {"Cancel"}}});
             QCOMPARE(next.commands, clean.commands.mid(0, clean.opened));
             QCOMPARE(next.shown, clean.shown);
-            QVERIFY(next.result == QDialog::Rejected && bench.channel.reports.isEmpty());
+            QVERIFY(next.result == QDialog::Rejected && module.link.reports.isEmpty());
             if (QTest::currentTestFailed())
                 QFAIL(qPrintable("failing " + clean.commands.at(i) + (end == INT_MAX ? " and what follows" : "")));
         }
@@ -122,16 +120,13 @@ void TestFaults::survivesEachFailure()
 
 namespace {
 
-/** Answers with whatever fits its buffers, and looks at what is written. */
-class GarbageChannel : public FormattingChannel
+/** Answers with whatever fits the module's buffers. */
+class GarbageLink : public ControllerLink
 {
 public:
-    explicit GarbageChannel(quint32 seed) : random(seed) {}
+    explicit GarbageLink(quint32 seed) : random(seed) {}
 
-    void reportError(const char* /*category*/, const char* /*systemTag*/, int /*flag*/, const char* message) override
-    {
-        QVERIFY(QByteArray(message).startsWith("Error: Unable to "));
-    }
+    bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
     template <typename Value>
     Value anyOf(const QVector<Value>& values)
@@ -140,18 +135,13 @@ public:
     }
 
     QRandomGenerator random;
-    int written = 0;
-
-protected:
-    bool execute(const QByteArray& operation, const QByteArray& command, QByteArray* answer) override;
-    void finished(const CommandRecord& record) override;
 
 private:
     QByteArray text();
     QByteArray number();
 };
 
-QByteArray GarbageChannel::text()
+QByteArray GarbageLink::text()
 {
     QByteArray bytes(anyOf<int>({1, 15, 99, 199, random.bounded(200)}), '\0');
     for (char& byte : bytes)
@@ -161,7 +151,7 @@ QByteArray GarbageChannel::text()
                               bytes});
 }
 
-QByteArray GarbageChannel::number()
+QByteArray GarbageLink::number()
 {
     if (random.bounded(100) > 0)
         return anyOf<QByteArray>({"0", "1", "2", "3", "0.25", "60"});
@@ -169,37 +159,36 @@ QByteArray GarbageChannel::number()
                               "-1e305", "1e-320", text()});
 }
 
-bool GarbageChannel::execute(const QByteArray& operation, const QByteArray& command, QByteArray* answer)
+bool GarbageLink::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
-    *answer = operation == "int" || operation == "double" ? number() : text();
+    *answer = operation == Operation::Int || operation == Operation::Double ? number() : text();
     if (command == "synccard available" && random.bounded(10) > 0)
         *answer = "yes";
     return random.bounded(200) > 0;
 }
 
-void GarbageChannel::finished(const CommandRecord& record)
+void checkWritten(const CommandRecord& record)
 {
     static const QRegularExpression notWritten("nan|inf|[^ -~]");
-    written += record.operation == "set";
-    if (record.operation == "set" && !record.command.startsWith("synccard active_mode "))
+    if (record.operation == Operation::Set && !record.command.startsWith("synccard active_mode "))
         QVERIFY(!notWritten.match(record.command).hasMatch());
 }
 
 /** One hasty thing a user may do next. */
-void actAtRandom(const Bench& bench, GarbageChannel* channel)
+void actAtRandom(const LoadedModule& module, GarbageLink* garbage)
 {
     if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
         return box->accept();
-    if (!bench.dialog()->isVisible())
+    if (!module.dialog()->isVisible())
         return;
-    const auto name = channel->anyOf<QByteArray>({"comboBox_modes", "comboBox_source", "comboBox_output"});
-    auto* selector = bench.find<QComboBox>(name);
+    const auto name = garbage->anyOf<QByteArray>({"comboBox_modes", "comboBox_source", "comboBox_output"});
+    auto* selector = module.find<QComboBox>(name);
     if (selector->isEnabled() && selector->count() > 0)
-        selector->setCurrentIndex(channel->random.bounded(selector->count()));
-    bench.find<QDoubleSpinBox>("doubleSpinBox_frequency")->stepUp();
-    QMetaObject::invokeMethod(bench.dialog(), "poll_input_frequency");
-    if (channel->random.bounded(3) == 0)
-        QMetaObject::invokeMethod(bench.dialog(), bench.see("pushButton_Ok").isEmpty() ? "accept" : "reject");
+        selector->setCurrentIndex(garbage->random.bounded(selector->count()));
+    module.find<QDoubleSpinBox>("doubleSpinBox_frequency")->stepUp();
+    QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
+    if (garbage->random.bounded(3) == 0)
+        QMetaObject::invokeMethod(module.dialog(), module.see("pushButton_Ok").isEmpty() ? "accept" : "reject");
 }
 
 } // namespace
@@ -208,52 +197,34 @@ void actAtRandom(const Bench& bench, GarbageChannel* channel)
 void TestFaults::survivesGarbage()
 {
     const int openings = qMax(3000, qEnvironmentVariableIntValue("GARBAGE_OPENINGS"));
-    GarbageChannel channel(static_cast<quint32>(qEnvironmentVariableIntValue("GARBAGE_SEED")));
-    Bench bench;
-    bench.loader.module()->exit_module();
-    bench.loader.setParameters(&channel, bench.parent, &bench.versions, false);
-    bench.element = bench.loader.module()->get_gui_elements().first();
+    GarbageLink garbage(static_cast<quint32>(qEnvironmentVariableIntValue("GARBAGE_SEED")));
+    ControllerChannel channel(&garbage);
+    int written = 0;
+    connect(&channel, &ControllerChannel::executed, this, [&](const CommandRecord& record) {
+        written += record.operation == Operation::Set;
+        checkWritten(record);
+    });
+    connect(&channel, &ControllerChannel::reported, this,
+            [](const QString&, const QString&, int, const QString& message) {
+                QVERIFY(message.startsWith("Error: Unable to "));
+            });
+    LoadedModule module;
+    module.loader.module()->exit_module();
+    module.loader.setParameters(&channel, module.parent, &module.versions, false);
+    module.element = module.loader.module()->get_gui_elements().first();
     QTimer hands;
-    connect(&hands, &QTimer::timeout, this, [&] { actAtRandom(bench, &channel); });
+    connect(&hands, &QTimer::timeout, this, [&] { actAtRandom(module, &garbage); });
     hands.start(0);
     QMap<int, int> results;
     for (int i = 0; i < openings && !QTest::currentTestFailed(); ++i) {
-        bench.versions = backend(channel.anyOf<QString>({"0.9", "1.4", "1.10 QUILLSTONE", "1.23", "1.23"}));
+        module.versions = backend(garbage.anyOf<QString>({"0.9", "1.4", "1.10 QUILLSTONE", "1.23", "1.23"}));
         int result = -3;
-        QMetaObject::invokeMethod(bench.dialog(), "update_and_exec", Q_RETURN_ARG(int, result));
+        QMetaObject::invokeMethod(module.dialog(), "update_and_exec", Q_RETURN_ARG(int, result));
         ++results[result];
-        QVERIFY(!bench.dialog()->isVisible() && bench.find<QTableWidget>("tableWidget_channels")->rowCount() <= 999);
+        QVERIFY(!module.dialog()->isVisible() && module.find<QTableWidget>("tableWidget_channels")->rowCount() <= 999);
     }
     QCOMPARE(results.keys(), QList<int>({-1, QDialog::Rejected, QDialog::Accepted}));
-    QVERIFY2(channel.written > openings / 2, qPrintable(QString::number(channel.written)));
-}
-
-/** The dialog may die with its parent or its module while it is open, and while the warning is: nothing more is sent.
- */
-void TestFaults::survivesTheHost()
-{
-    for (const int kind : {0, 1, 2, 3}) {
-        const bool isInBox = kind % 2 == 0;
-        Bench bench("1.23", "set synccard active_mode none=!");
-        const auto interfere = [&] {
-            if (kind < 2)
-                delete bench.parent;
-            else
-                bench.loader.module()->exit_module();
-        };
-        bench.open([&] {
-            bench.user().clickCell(1, 2);
-            bench.channel.takeCommands();
-            if (!isInBox)
-                return interfere();
-            bench.insteadOfClosingBox = interfere;
-            bench.user().leave("OK");
-        });
-        QCOMPARE(bench.channel.commands.join(), QByteArray(isInBox ? "set synccard active_mode none" : ""));
-        QVERIFY(!bench.element->content);
-        bench.loader.module()->exit_module();
-        bench.loader.module()->exit_module();
-    }
+    QVERIFY2(written > openings / 2, qPrintable(QString::number(written)));
 }
 
 QTEST_MAIN(TestFaults)

@@ -1,5 +1,4 @@
-#include "Bench.h"
-#include "synccardlist.h"
+#include "LoadedModule.h"
 
 #include <QAction>
 #include <QApplication>
@@ -20,7 +19,6 @@ class TestPlugin : public QObject
 private slots:
     void comparesVersions();
     void parsesVersions();
-    void keepsRecords();
     void hasIdentity();
     void offersOneEntry();
     void takesParameters();
@@ -45,9 +43,9 @@ public:
 };
 
 template <typename Widget, typename Visit>
-void forEach(const Bench& bench, Visit visit)
+void forEach(const LoadedModule& module, Visit visit)
 {
-    const QList<Widget*> widgets = bench.dialog()->findChildren<Widget*>();
+    const QList<Widget*> widgets = module.dialog()->findChildren<Widget*>();
     std::for_each(widgets.begin(), widgets.end(), visit);
 }
 
@@ -77,26 +75,10 @@ void TestPlugin::parsesVersions()
     }
 }
 
-void TestPlugin::keepsRecords()
-{
-    SynccardList list;
-    QVERIFY(!list.getSynccard(0) && !list.hasSynccard(0));
-    auto* first = new Synccard(0);
-    list.add(first);
-    list.add(new Synccard(0));
-    QCOMPARE(list.getSynccard(0), first);
-    QVERIFY(first->id() == 0 && first->activeMode().isEmpty() && first->activeSource().isEmpty()
-            && first->frequency() == 60.0 && first->externalDivisor() == 1 && first->channelsCount() == 0);
-    first->addChannel(new Channel);
-    QVERIFY(first->channel(0) && !first->channel(1) && !first->channel(-1));
-    list.clear();
-    QCOMPARE(list.size(), 0);
-}
-
 void TestPlugin::hasIdentity()
 {
-    Bench bench;
-    QPluginLoader loader(bench.loader.fileName());
+    LoadedModule module;
+    QPluginLoader loader(module.loader.fileName());
     const QJsonObject data = loader.metaData();
     QCOMPARE(data.value("IID").toString(), "org.zorvan.Zorvan2.SnyccardSettingsModule");
     QCOMPARE(data.value("className").toString(), "SynccardSettingsModule");
@@ -105,9 +87,9 @@ void TestPlugin::hasIdentity()
     QObject* object = loader.instance();
     QVERIFY(object && object == loader.instance());
     QCOMPARE(object->qt_metacast("ModuleInterface"), object->qt_metacast("org.zorvan.zorvan2.gui.Module/0.2.0"));
-    QCOMPARE(static_cast<ModuleInterface*>(object->qt_metacast("ModuleInterface")), bench.loader.module());
-    QCOMPARE(bench.loader.module()->get_module_name(), "GUI Synccard Settings");
-    QCOMPARE(bench.loader.module()->get_module_version(), "v1.2.7");
+    QCOMPARE(static_cast<ModuleInterface*>(object->qt_metacast("ModuleInterface")), module.loader.module());
+    QCOMPARE(module.loader.module()->get_module_name(), "GUI Synccard Settings");
+    QCOMPARE(module.loader.module()->get_module_version(), "v1.2.7");
     QCOMPARE(QFile(":/images/lock.png").size(), 1241);
     QCOMPARE(QImage(":/images/lock.png").size(), QSize(48, 48));
     QCOMPARE(QFile(":/images/synccard.png").size(), 22652);
@@ -116,49 +98,49 @@ void TestPlugin::hasIdentity()
 
 void TestPlugin::offersOneEntry()
 {
-    Bench bench;
-    QCOMPARE(bench.loader.module()->get_gui_elements(), {bench.element});
+    LoadedModule module;
+    QCOMPARE(module.loader.module()->get_gui_elements(), {module.element});
     QCOMPARE(QString("%1 %2 %3 %4")
-                 .arg(bench.element->menu_name)
-                 .arg(bench.element->menu_order_number)
-                 .arg(bench.element->menu_entry_order_number)
-                 .arg(bench.element->action_active_during_measurement),
+                 .arg(module.element->menu_name)
+                 .arg(module.element->menu_order_number)
+                 .arg(module.element->menu_entry_order_number)
+                 .arg(module.element->action_active_during_measurement),
              "H&ardware 200 130 0");
-    QPointer<QAction> action(bench.element->menu_entry);
+    QPointer<QAction> action(module.element->menu_entry);
     QCOMPARE(action->text() + action->statusTip() + action->whatsThis() + action->shortcut().toString(),
              "&SynccardChange Synccard settingsChange Synccard settingsShift+F7");
     QVERIFY(action->icon().isNull());
-    bench.openBy([&] { action->trigger(); }, [&] { bench.user().leave("Cancel"); });
-    QVERIFY(!bench.channel.commands.isEmpty());
-    bench.loader.module()->exit_module();
-    bench.loader.module()->exit_module();
-    QVERIFY(!bench.element->content && bench.element->menu_entry == action);
-    QVERIFY(bench.loader.module()->get_gui_elements().constFirst()->menu_entry != action);
-    bench.loader.unload();
+    module.openBy([&] { action->trigger(); }, [&] { module.user().leave("Cancel"); });
+    QVERIFY(!module.link.commands.isEmpty());
+    module.loader.module()->exit_module();
+    module.loader.module()->exit_module();
+    QVERIFY(!module.element->content && module.element->menu_entry == action);
+    QVERIFY(module.loader.module()->get_gui_elements().constFirst()->menu_entry != action);
+    module.loader.unload();
     QVERIFY(!action);
 }
 
 /** Keys are exact; a value that cannot be converted counts as none, and without any there is no synccard. */
 void TestPlugin::takesParameters()
 {
-    Bench bench;
-    ModuleInterface* module = bench.loader.module();
-    module->exit_module();
-    module->set_param("commandmanager", QVariant());
-    module->set_param("ModuleParent", QVariant::fromValue<QObject*>(this));
-    bench.element = module->get_gui_elements().constFirst();
-    QVERIFY(!bench.dialog()->parentWidget());
-    bench.look();
-    QVERIFY(!bench.channel.takeCommands().isEmpty());
-    module->exit_module();
-    bench.loader.setParameters(&bench.channel, nullptr, nullptr, true);
-    module->set_param("CommandManager", "no channel");
-    module->get_gui_elements();
-    bench.open([&] {
-        QVERIFY(bench.dialog()->windowIcon().isNull() && !bench.see("label_error").endsWith(" hidden"));
-        bench.user().leave("Escape");
+    LoadedModule module;
+    ModuleInterface* interface = module.loader.module();
+    interface->exit_module();
+    interface->set_param("commandmanager", QVariant());
+    interface->set_param("ModuleParent", QVariant::fromValue<QObject*>(this));
+    module.element = interface->get_gui_elements().constFirst();
+    QVERIFY(!module.dialog()->parentWidget());
+    module.look();
+    QVERIFY(!module.link.takeCommands().isEmpty());
+    interface->exit_module();
+    module.loader.setParameters(&module.channel, nullptr, nullptr, true);
+    interface->set_param("CommandManager", "no channel");
+    interface->get_gui_elements();
+    module.open([&] {
+        QVERIFY(module.dialog()->windowIcon().isNull() && !module.see("label_error").endsWith(" hidden"));
+        module.user().leave("Escape");
     });
-    QCOMPARE(bench.channel.commands, {});
+    QCOMPARE(module.link.commands, {});
 }
 
 /** Unloading takes away every widget and resource; the plug-in can be loaded again. */
@@ -169,18 +151,18 @@ void TestPlugin::leavesNothing()
         QTableWidget other(1, 1);
         other.setItem(0, 0, new QTableWidgetItem("x"));
         {
-            Bench bench("1.23", "synccard number_of_synccards=1;synccard synccard d01=0x0402 0");
-            bench.look();
+            LoadedModule module("1.23", "synccard number_of_synccards=1;synccard synccard d01=0x0402 0");
+            module.look();
             // The style keeps the text painted last until it paints another one, when the plug-in is gone.
-            bench.find<QTableWidget>("tableWidget_synccards")->grab();
-            file = bench.loader.fileName();
+            module.find<QTableWidget>("tableWidget_synccards")->grab();
+            file = module.loader.fileName();
         }
         other.grab();
         QPluginLoader forgetful(file);
         forgetful.setLoadHints({});
-        auto* module = qobject_cast<ModuleInterface*>(forgetful.instance());
-        QVERIFY(!module->get_gui_elements().isEmpty());
-        delete module; // without exit_module()
+        auto* interface = qobject_cast<ModuleInterface*>(forgetful.instance());
+        QVERIFY(!interface->get_gui_elements().isEmpty());
+        delete interface; // without exit_module()
         QVERIFY(forgetful.unload());
         QVERIFY(QApplication::topLevelWidgets() == QWidgetList{&other});
         QVERIFY(!QFile::exists(":/images/lock.png"));
@@ -189,23 +171,23 @@ void TestPlugin::leavesNothing()
 
 void TestPlugin::hasForm()
 {
-    Bench bench;
-    QCOMPARE(bench.dialog()->objectName(), "synccarddialog");
+    LoadedModule module;
+    QCOMPARE(module.dialog()->objectName(), "synccarddialog");
     for (const char* name : {"label_inputSource", "label_inputFrequency"})
-        QCOMPARE(bench.find<QLabel>(name)->textFormat(), Qt::PlainText);
+        QCOMPARE(module.find<QLabel>(name)->textFormat(), Qt::PlainText);
     for (const char* name : {"tableWidget_synccards", "tableWidget_channels"})
-        QCOMPARE(bench.find<QTableWidget>(name)->columnWidth(0), 200);
-    bench.open([&] {
+        QCOMPARE(module.find<QTableWidget>(name)->columnWidth(0), 200);
+    module.open([&] {
         const QMap<Qt::Key, const char*> mnemonics = {{Qt::Key_S, "comboBox_modes"},
                                                       {Qt::Key_C, "comboBox_source"},
                                                       {Qt::Key_F, "doubleSpinBox_frequency"},
                                                       {Qt::Key_O, "comboBox_output"}};
         for (auto key = mnemonics.begin(); key != mnemonics.end(); ++key) {
-            QTest::keyClick(bench.dialog(), key.key(), Qt::AltModifier);
-            QCOMPARE(bench.dialog()->focusWidget()->objectName(), key.value());
+            QTest::keyClick(module.dialog(), key.key(), Qt::AltModifier);
+            QCOMPARE(module.dialog()->focusWidget()->objectName(), key.value());
         }
-        auto* channels = bench.find<QTableWidget>("tableWidget_channels");
-        auto* cards = bench.find<QTableWidget>("tableWidget_synccards");
+        auto* channels = module.find<QTableWidget>("tableWidget_channels");
+        auto* cards = module.find<QTableWidget>("tableWidget_synccards");
         QVERIFY(channels->maximumHeight() == 110 && channels->isColumnHidden(3) && channels->rowHeight(1) == 20);
         QVERIFY(cards->maximumHeight() == 100 && cards->columnWidth(0) == 165 && cards->rowHeight(0) == 28);
         QVERIFY(channels->columnWidth(0) == 110 && channels->columnWidth(1) == 110);
@@ -217,8 +199,8 @@ void TestPlugin::hasForm()
         QCOMPARE(cards->selectionMode(), QAbstractItemView::NoSelection);
         QCOMPARE(channels->selectionMode(), QAbstractItemView::NoSelection);
         QCOMPARE(cards->editTriggers(), QAbstractItemView::NoEditTriggers);
-        QCOMPARE(bench.dialog()->minimumSize(), bench.dialog()->maximumSize());
-        bench.user().leave("Escape");
+        QCOMPARE(module.dialog()->minimumSize(), module.dialog()->maximumSize());
+        module.user().leave("Escape");
     });
 }
 
@@ -228,20 +210,20 @@ void TestPlugin::translatesEveryText()
     MarkingTranslator translator;
     QApplication::installTranslator(&translator);
     const QByteArray everything = "synccard has_source d01 ttlinv=yes;synccard has_output d01 internal ttlinv=yes";
-    Bench bench("1.23", everything + ";set synccard internal_frequency d01 121.000000=!");
-    QStringList texts = {bench.element->menu_name,
-                         bench.element->menu_entry->text(),
-                         bench.element->menu_entry->statusTip(),
-                         bench.element->menu_entry->whatsThis(),
-                         bench.loader.module()->get_module_name(),
-                         bench.dialog()->windowTitle()};
-    bench.open([&] {
-        forEach<QWidget>(bench, [&](const QWidget* widget) { texts.append(widget->whatsThis()); });
-        forEach<QLabel>(bench, [&](const QLabel* label) { texts.append(label->text()); });
+    LoadedModule module("1.23", everything + ";set synccard internal_frequency d01 121.000000=!");
+    QStringList texts = {module.element->menu_name,
+                         module.element->menu_entry->text(),
+                         module.element->menu_entry->statusTip(),
+                         module.element->menu_entry->whatsThis(),
+                         module.loader.module()->get_module_name(),
+                         module.dialog()->windowTitle()};
+    module.open([&] {
+        forEach<QWidget>(module, [&](const QWidget* widget) { texts.append(widget->whatsThis()); });
+        forEach<QLabel>(module, [&](const QLabel* label) { texts.append(label->text()); });
         for (const char* name : {"comboBox_source", "comboBox_output"})
-            for (int i = 0; i < bench.find<QComboBox>(name)->count(); ++i)
-                texts.append(bench.find<QComboBox>(name)->itemText(i));
-        forEach<QTableWidget>(bench, [&](const QTableWidget* table) {
+            for (int i = 0; i < module.find<QComboBox>(name)->count(); ++i)
+                texts.append(module.find<QComboBox>(name)->itemText(i));
+        forEach<QTableWidget>(module, [&](const QTableWidget* table) {
             for (int i = 0; i < table->columnCount(); ++i)
                 texts.append(table->horizontalHeaderItem(i)->text());
         });
@@ -249,14 +231,14 @@ void TestPlugin::translatesEveryText()
         QVERIFY(all.contains("#Model|#Serial") && all.contains("#Channel|#Delay [us]|#Active during idle|#Max delay"));
         for (const QString& text : qAsConst(texts))
             QVERIFY2(text.isEmpty() || text.startsWith('#'), qPrintable(text));
-        QCOMPARE(bench.see("comboBox_modes"), "Fast mode=fast|Slow mode=slow|*#direct settings=direct settings");
-        QTest::keyClick(bench.find<QWidget>("doubleSpinBox_frequency"), Qt::Key_Up);
-        bench.user().leave("OK");
+        QCOMPARE(module.see("comboBox_modes"), "Fast mode=fast|Slow mode=slow|*#direct settings=direct settings");
+        QTest::keyClick(module.find<QWidget>("doubleSpinBox_frequency"), Qt::Key_Up);
+        module.user().leave("OK");
     });
-    QCOMPARE(bench.boxes, {"#Warning: #Error occured while performing the change"});
-    bench.channel.script("synccard available=no");
-    bench.look();
-    QVERIFY(bench.see("label_error").startsWith('#'));
+    QCOMPARE(module.boxes, {"#Warning: #Error occured while performing the change"});
+    module.link.script("synccard available=no");
+    module.look();
+    QVERIFY(module.see("label_error").startsWith('#'));
     QCOMPARE(texts.filter("#").size(), 43);
 }
 

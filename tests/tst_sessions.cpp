@@ -12,42 +12,42 @@ private slots:
 
 namespace {
 
-void compareWidgets(const Bench& bench, const QByteArrayList& expectations)
+void compareWidgets(const LoadedModule& module, const QByteArrayList& expectations)
 {
     for (const QByteArray& expected : expectations) {
         const QByteArray name = expected.left(expected.indexOf(':'));
-        const QByteArray content = bench.see(name);
+        const QByteArray content = module.see(name);
         QCOMPARE(name + ':' + (content.isEmpty() ? "" : " ") + content, expected);
     }
 }
 
-void compareOpening(Bench& bench, const Session& session)
+void compareOpening(LoadedModule& module, const Session& session)
 {
     QByteArrayList asked = session.value("asks");
     for (const QByteArray& text : session.value("unasked"))
         asked.erase(std::remove_if(asked.begin(), asked.end(), [&](auto& line) { return line.contains(text); }),
                     asked.end());
-    const QByteArrayList commands = bench.channel.takeCommands();
+    const QByteArrayList commands = module.link.takeCommands();
     if (session.contains("asks"))
         QCOMPARE(commands, asked);
-    QCOMPARE(bench.channel.takeReports(), session.value("report"));
-    compareWidgets(bench, session.value("shows"));
+    QCOMPARE(module.link.takeReports(), session.value("report"));
+    compareWidgets(module, session.value("shows"));
 }
 
 /** The second opening of a case. */
-void openAgain(Bench& bench, const Session& session)
+void openAgain(LoadedModule& module, const Session& session)
 {
-    bench.versions = backend(session.value("again-protocol", session.value("protocol")).first());
-    bench.channel.script(session.value("again").join(';'));
-    const bool isShown = bench.open([&] {
-        compareWidgets(bench, session.value("again-shows"));
-        bench.channel.takeCommands();
+    module.versions = backend(session.value("again-protocol", session.value("protocol")).first());
+    module.link.script(session.value("again").join(';'));
+    const bool isShown = module.open([&] {
+        compareWidgets(module, session.value("again-shows"));
+        module.link.takeCommands();
         for (const QByteArray& action : session.value("again-user"))
-            act(bench, action);
-        bench.user().leave(session.value("again-leave", {"OK"}).first());
+            act(module, action);
+        module.user().leave(session.value("again-leave", {"OK"}).first());
     }) >= 0;
     QVERIFY(isShown);
-    QCOMPARE(bench.channel.commands, session.value("again-sends"));
+    QCOMPARE(module.link.commands, session.value("again-sends"));
 }
 
 } // namespace
@@ -61,26 +61,26 @@ void TestSessions::runs()
 {
     QFETCH(Session, session);
     for (const char* way : {"OK", "Cancel", "Escape", "close"}) {
-        Bench bench(session.value("protocol").first(), session.value("answer").join(';'));
+        LoadedModule module(session.value("protocol").first(), session.value("answer").join(';'));
         bool isOk = qstrcmp(way, "OK") == 0;
-        const int result = bench.open([&] {
-            compareOpening(bench, session);
-            bench.channel.script(session.value("later").join(';'));
+        const int result = module.open([&] {
+            compareOpening(module, session);
+            module.link.script(session.value("later").join(';'));
             for (const QByteArray& action : session.value("user"))
-                act(bench, action);
-            compareWidgets(bench, session.value("after"));
-            isOk = isOk && bench.see("pushButton_Ok") != " off";
-            bench.user().leave(isOk || qstrcmp(way, "OK") != 0 ? way : "Cancel");
+                act(module, action);
+            compareWidgets(module, session.value("after"));
+            isOk = isOk && module.see("pushButton_Ok") != " off";
+            module.user().leave(isOk || qstrcmp(way, "OK") != 0 ? way : "Cancel");
         });
         QCOMPARE(result == -1, session.contains("stops"));
         if (result == -1)
-            return compareOpening(bench, session);
+            return compareOpening(module, session);
         QCOMPARE(result, int(isOk ? QDialog::Accepted : QDialog::Rejected));
-        QCOMPARE(bench.channel.commands, session.value(isOk ? "ok" : "cancel"));
-        QCOMPARE(bench.channel.reports, session.value(isOk ? "ok-report" : "cancel-report"));
-        QCOMPARE(bench.boxes, isOk ? session.value("ok-box") : QByteArrayList());
+        QCOMPARE(module.link.commands, session.value(isOk ? "ok" : "cancel"));
+        QCOMPARE(module.link.reports, session.value(isOk ? "ok-report" : "cancel-report"));
+        QCOMPARE(module.boxes, isOk ? session.value("ok-box") : QByteArrayList());
         if (session.contains("again"))
-            openAgain(bench, session);
+            openAgain(module, session);
     }
 }
 

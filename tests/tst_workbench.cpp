@@ -1,16 +1,17 @@
-#include "Bench.h"
+#include "ControllerModel.h"
 #include "DevelopmentHost.h"
+#include "Files.h"
+#include "LoadedModule.h"
 #include "Workbench.h"
 
 #include <QAction>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTabBar>
 #include <QTableView>
 #include <QTemporaryDir>
 
-/** What the host adds to a controller: recordings, faults, the tree of its state, and the window for all of it. */
+/** Recorded sessions with the host, the tree of the controller's state, and the workbench beside the dialog. */
 class TestWorkbench : public QObject
 {
     Q_OBJECT
@@ -18,9 +19,6 @@ class TestWorkbench : public QObject
 private slots:
     void initTestCase() { failOnWarnings(); }
     void replaysWhatItRecorded();
-    void readsRecordings_data();
-    void readsRecordings();
-    void breaksCommands();
     void editsTheController();
     void staysUsableBesideTheDialog();
 };
@@ -35,20 +33,15 @@ HostSetup setup(const QString& record = QString(), const QString& replay = QStri
     return result;
 }
 
-GuiElement* element(const DevelopmentHost& host)
-{
-    return host.loader.module()->get_gui_elements().first();
-}
-
 /** Opens the dialog by its menu entry. */
 void open(DevelopmentHost& host, const std::function<void(const DialogUser&)>& steps,
           DialogUser::Outcome expected = DialogUser::Closed)
 {
-    host.window.show();
-    host.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&host.window));
-    const DialogUser user(qobject_cast<QDialog*>(element(host)->content));
-    QCOMPARE(user.openBy([&] { element(host)->menu_entry->trigger(); }, [&] { steps(user); }), expected);
+    host.window().show();
+    host.window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&host.window()));
+    const DialogUser user(host.dialog());
+    QCOMPARE(user.openBy([&] { host.entry().menu_entry->trigger(); }, [&] { steps(user); }), expected);
 }
 
 QList<QSize> iconSizes(DevelopmentHost& host)
@@ -78,12 +71,6 @@ QByteArray recorded(const QString& file)
     return recording.open(QIODevice::ReadOnly) ? recording.readAll() : QByteArray();
 }
 
-void write(const QString& file, const QByteArray& text)
-{
-    QFile output(file);
-    QVERIFY(output.open(QIODevice::WriteOnly) && output.write(text) == text.size());
-}
-
 } // namespace
 
 /** The recorded controller is shown, whatever else is set up; polls may be more or fewer. The first command that
@@ -94,7 +81,7 @@ void TestWorkbench::replaysWhatItRecorded()
     const QString file = folder.filePath("a");
     QByteArray text = recorded(file);
     text.replace("frequency d01 -> 60\n", "frequency d01 -> 77\n").replace("frequency d01 61", "frequency d01 78");
-    write(file, text);
+    writeFile(file, text);
     HostSetup replaying = setup(QString(), file);
     replaying.state.protocol = VersionInfo(0, 9, 0);
     {
@@ -106,79 +93,15 @@ void TestWorkbench::replaysWhatItRecorded()
             QCOMPARE(textOfWidget(user.find<QWidget>("doubleSpinBox_frequency")), "10..500:77");
             raiseFrequency(user);
         });
-        QCOMPARE(host.replay.problem(), QString());
+        QCOMPARE(host.replay().problem(), QString());
     }
-    write(file, QByteArray(text).replace("get synccard mode t02", "get synccard mode t03"));
+    writeFile(file, QByteArray(text).replace("get synccard mode t02", "get synccard mode t03"));
     DevelopmentHost differing(setup(QString(), file));
     QVERIFY(differing.start());
     open(differing, raiseFrequency, DialogUser::NotShown);
     const int line = text.left(text.indexOf("mode t02")).count('\n') + 1;
     const QString expected = R"(%1:%2: expected "get synccard mode t03", found "get synccard mode t02")";
-    QCOMPARE(differing.replay.problem(), expected.arg(file).arg(line));
-}
-
-void TestWorkbench::readsRecordings_data()
-{
-    QTest::addColumn<QByteArray>("lines");
-    QTest::addColumn<QString>("problem");
-    const QByteArray start = "synccard recording 1\n0.000 connect 1.23.0 X -> \n";
-    const QString form = R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";
-    QTest::newRow("whole") << start + "# note\r\n\n0.1 set a b ->\r\n0.2 get c failed\n0.3 get \\-> -> \\\\ \\n\\r\n"
-                           << "";
-    QTest::newRow("something else") << QByteArray("{}\n") << "1: this is no recording";
-    QTest::newRow("empty") << QByteArray("synccard recording 1\n") << "2: it does not begin with a \"connect\"";
-    QTest::newRow("not begun") << QByteArray("synccard recording 1\n#\n0 get a -> b\n0 get a -> b\n")
-                               << "3: it does not begin with a \"connect\"";
-    QTest::newRow("Latin-1") << start + "0.1 get a -> \xE4\n"
-                             << "3: a character that is not Latin-1, or no UTF-8";
-    QTest::newRow("escape") << start + "0.1 get a -> Cam\\era\n"
-                            << R"(3: an unknown "\"; the character itself is written "\\")";
-    QTest::newRow("no answer") << start + "0.1 get a\n"
-                               << "3: " + form;
-    QTest::newRow("time") << start + "x get a -> b\n"
-                          << "3: seconds are expected, \"x\" is found";
-    QTest::newRow("operation") << start + "1 put a -> b\n"
-                               << "3: unknown operation \"put\"";
-    QTest::newRow("version") << start.left(20) + "\n0 connect 1 X -> \n"
-                             << "2: a protocol version such as 1.23.0 is expected behind \"connect\"";
-}
-
-void TestWorkbench::readsRecordings()
-{
-    QFETCH(QByteArray, lines);
-    QFETCH(QString, problem);
-    QTemporaryDir folder;
-    const QString file = folder.filePath("a");
-    write(file, lines);
-    QVector<RecordedCommand> commands;
-    QString found;
-    QCOMPARE(readRecording(file, &commands, &found), problem.isEmpty());
-    QCOMPARE(found, problem.isEmpty() ? QString() : file + ':' + problem);
-    if (problem.isEmpty())
-        QCOMPARE(toLine(commands.last().record, 1234), QByteArray("1.234 get \\-> -> \\\\ \\n\\r\n"));
-}
-
-void TestWorkbench::breaksCommands()
-{
-    SimulatedController controller(ControllerState::builtIn());
-    Faults faults(&controller);
-    const auto outcomes = [&] {
-        QByteArray text;
-        QByteArray answer;
-        for (const char* command : {"synccard available", "synccard source d01", "synccard output d01"})
-            text += faults.execute("get", command, &answer) ? 'y' : 'n';
-        return text;
-    };
-    QCOMPARE(outcomes(), QByteArray("yyy"));
-    faults.failNth(2);
-    QCOMPARE(outcomes(), QByteArray("yny"));
-    QCOMPARE(outcomes(), QByteArray("yyy"));
-    faults.failMatching(QRegularExpression("d0[12]$"));
-    faults.setLatency(20);
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(outcomes(), QByteArray("ynn"));
-    QVERIFY(timer.elapsed() >= 60);
+    QCOMPARE(differing.replay().problem(), expected.arg(file).arg(line));
 }
 
 /** A value that cannot be is refused; a protocol on the other side of 0.13 gets a module loaded anew. */
@@ -186,7 +109,7 @@ void TestWorkbench::editsTheController()
 {
     DevelopmentHost host(setup());
     QVERIFY(host.start());
-    ControllerModel model(&host.controller, [&](const ControllerState& state) { return host.changeState(state); });
+    ControllerModel model(&host.controller(), [&](const ControllerState& state) { return host.changeState(state); });
     QString problem;
     connect(&model, &ControllerModel::edited, this, [&](const QString& said) { problem = said; });
     const auto edit = [&](const char* name, const QVariant& value) {
@@ -197,23 +120,26 @@ void TestWorkbench::editsTheController()
     QCOMPARE(edit("locked", true), "locked * true ");
     QCOMPARE(iconSizes(host), {QSize(48, 48)});
     QCOMPARE(edit("frequency", "75.5"), "frequency * 75.5 ");
-    QCOMPARE(edit("divisor", "x"), "divisor 1 cards[0].divisor: a number from 1 to 100 is expected");
-    QCOMPARE(host.controller.state().cards.first().frequency, 75.5);
+    QCOMPARE(edit("divisor", "x"), "divisor 1 cards 1, divisor: a number from 1 to 100 is expected");
+    QCOMPARE(host.controller().state().cards.first().frequency, 75.5);
     model.markFromNow();
     QCOMPARE(edit("locked", false), "locked * false ");
-    QCOMPARE(iconSizes(host), host.window.windowIcon().availableSizes());
+    QCOMPARE(iconSizes(host), host.window().windowIcon().availableSizes());
     QCOMPARE(edit("protocol", "1.10"), "protocol * 1.10.0 ");
-    QCOMPARE(host.versions.protocol(), VersionInfo(1, 10, 0));
-    QVERIFY(host.controller.execute("zorvan2 set synccard source d01 video").ok);
+    QCOMPARE(host.versions().protocol(), VersionInfo(1, 10, 0));
+    open(host, [](const DialogUser& user) {
+        user.choose("comboBox_source", "video");
+        user.leave("OK");
+    });
     QTRY_COMPARE(model.findItems("source *", Qt::MatchRecursive).size(), 1);
-    QPointer<QAction> entry(element(host)->menu_entry);
+    QPointer<QAction> entry(host.entry().menu_entry);
     open(host, [&](const DialogUser& user) {
         QVERIFY(edit("protocol", "0.12.7").contains("close the dialog first"));
         user.leave("Escape");
     });
     QVERIFY(entry);
     QCOMPARE(edit("protocol", "0.12.7"), "protocol * 0.12.7 ");
-    QVERIFY(!entry && element(host)->menu_entry);
+    QVERIFY(!entry && host.entry().menu_entry);
     open(host, [](const DialogUser& user) { user.leave("Escape"); });
 }
 
@@ -230,13 +156,13 @@ void TestWorkbench::staysUsableBesideTheDialog()
     const auto rows = [&](const char* table) { return workbench.findChild<QTableView*>(table)->model()->rowCount(); };
     open(host, raiseFrequency, DialogUser::NotShown);
     QCOMPARE(rows("reports"), 1);
-    host.faults.failMatching(QRegularExpression("has_output"));
+    host.faults().failMatching(QRegularExpression("has_output"));
     open(host, [&](const DialogUser& user) {
         const QPoint tab = tabs->mapTo(&workbench, tabs->tabRect(1).center());
         QTest::mouseClick(workbench.windowHandle(), Qt::LeftButton, Qt::NoModifier, tab);
         QCOMPARE(tabs->currentIndex(), 1);
-        host.window.close();
-        QVERIFY(host.window.isVisible());
+        host.window().close();
+        QVERIFY(host.window().isVisible());
         user.leave("Escape");
     });
     open(host, [](const DialogUser& user) { user.leave("Escape"); });
@@ -246,11 +172,11 @@ void TestWorkbench::staysUsableBesideTheDialog()
     tabs->setCurrentIndex(0);
     QTest::keyClicks(workbench.findChild<QLineEdit*>(), "FAILED");
     QCOMPARE(rows("commands"), 7);
-    auto* measurement = host.window.findChild<QAction*>("measurement");
+    auto* measurement = host.window().findChild<QAction*>("measurement");
     measurement->trigger();
-    QVERIFY(!element(host)->menu_entry->isEnabled());
+    QVERIFY(!host.entry().menu_entry->isEnabled());
     measurement->trigger();
-    QVERIFY(element(host)->menu_entry->isEnabled());
+    QVERIFY(host.entry().menu_entry->isEnabled());
 }
 
 QTEST_MAIN(TestWorkbench)

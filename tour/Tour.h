@@ -20,14 +20,14 @@ public:
     /** Pictures go into \a pictureFolder, if it is not empty. */
     Tour(const HostSetup& setup, const QString& pictureFolder);
 
-    /** Starts the host. False when it cannot; problem() says why. */
-    bool start();
-
-    /** The whole tour; stops at the first thing amiss, which problem() names. */
-    bool run();
-    QString problem() const { return firstProblem; }
+    /**
+     * Starts the host and makes the visits, up to the first thing amiss, which it prints to standard error. Returns
+     * the exit status: 0, 1 after something amiss, 2 when the host cannot start.
+     */
+    int run();
 
 private:
+    // The visits: Tour_visits.cpp
     void raiseFrequency();
     void takeSourceBack();
     void editChannels();
@@ -36,14 +36,15 @@ private:
     void meetLockedController();
     void meetControllerWithoutSynccard();
 
+    // What they are made of: Tour.cpp
     void restart(const ControllerState& state);
-    void meetDialog();
     void visit(const QString& title, const DialogUser::Steps& steps);
+    void compareState(const QString& title);
     void waitForPoll();
     void closeBox();
     void look(const QString& name);
-    void takePicture(QWidget* widget, const QString& name);
-    void demand(bool condition, const QString& what);
+    /** Keeps the first thing amiss; false once there is one. */
+    bool demand(bool condition, const QString& what);
     bool hasFailed() const { return !firstProblem.isEmpty(); }
 
     ControllerState initial;

@@ -57,28 +57,28 @@ void addSessions(const char* name)
     }
 }
 
-void act(Bench& bench, const QByteArray& action)
+void act(LoadedModule& module, const QByteArray& action)
 {
     const QByteArrayList words = action.split(' ');
     const QByteArray argument = action.mid(words.value(0).size() + words.value(1).size() + 2);
     if (words.at(0) == "key")
-        QTest::keyClick(bench.find<QWidget>(words.at(1)), Qt::Key(QKeySequence(QString(argument))[0]));
+        QTest::keyClick(module.find<QWidget>(words.at(1)), Qt::Key(QKeySequence(QString(argument))[0]));
     else if (words.at(0) == "choose")
-        bench.user().choose(words.at(1), argument);
+        module.user().choose(words.at(1), argument);
     else if (words.at(0) == "deselect")
-        bench.find<QComboBox>(words.at(1))->setCurrentIndex(-1);
+        module.find<QComboBox>(words.at(1))->setCurrentIndex(-1);
     else if (words.at(0) == "click")
-        bench.user().clickCell(words.at(1).toInt(), argument.toInt());
+        module.user().clickCell(words.at(1).toInt(), argument.toInt());
     else if (words.at(0) == "delay")
-        DialogUser::type(bench.user().editDelay(words.at(1).toInt()), argument);
+        DialogUser::type(module.user().editDelay(words.at(1).toInt()), argument);
     else if (words.at(0) == "text")
-        bench.find<QTableWidget>("tableWidget_channels")->item(words.at(1).toInt(), 1)->setText(words.at(3));
+        module.find<QTableWidget>("tableWidget_channels")->item(words.at(1).toInt(), 1)->setText(words.at(3));
     else if (words.at(0) == "take")
-        delete bench.find<QTableWidget>("tableWidget_channels")->takeItem(words.at(1).toInt(), argument.toInt());
+        delete module.find<QTableWidget>("tableWidget_channels")->takeItem(words.at(1).toInt(), argument.toInt());
     else if (words.at(0) == "answer")
-        bench.channel.script(action.mid(7));
+        module.link.script(action.mid(7));
     else if (action == "poll")
-        QMetaObject::invokeMethod(bench.dialog(), "poll_input_frequency");
+        QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
     else
         QFAIL("unknown action " + action);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Bench.h"
+#include "LoadedModule.h"
 
 #include <QMap>
 #include <QVector>
@@ -25,4 +25,4 @@ private:
 void addSessions(const char* name);
 
 /** Does what the words of \a action say, by keys and mouse where a user has them. */
-void act(Bench& bench, const QByteArray& action);
+void act(LoadedModule& module, const QByteArray& action);

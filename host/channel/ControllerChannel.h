@@ -1,0 +1,45 @@
+#pragma once
+
+#include "CommandRecord.h"
+#include "IOManager.h"
+
+#include <QObject>
+
+class ControllerLink;
+
+/**
+ * The command channel between a module and a controller's link, which it does not own. It formats commands and parses
+ * numbers with a decimal point whatever the user's locale, and fails an answer that does not fit the module's buffer.
+ * A failure fills the result with plausible values: a module that ignores the failure shows wrong values in tests.
+ * GUI thread only.
+ */
+class ControllerChannel : public QObject, public IOManager
+{
+    Q_OBJECT
+
+public:
+    explicit ControllerChannel(ControllerLink* link) : link(link) {}
+
+    int sendCommand(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int getParameter(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int getParameterInt(int* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int getParameterDouble(double* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int getParameterBool(bool* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    int setParameter(const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
+    void reportError(const char* category, const char* systemTag, int flag, const char* message) override;
+
+signals:
+    /** A command has been answered. */
+    void executed(const CommandRecord& record);
+    /** The module reported an error; \a message is a finished text. */
+    void reported(const QString& category, const QString& systemTag, int flag, const QString& message);
+
+private:
+    template <typename Take>
+    int carryOut(Operation operation, const QByteArray& command, Take take);
+    template <typename Value, typename Convert>
+    int answerValue(Operation operation, const QByteArray& command, Value* result, Convert convert);
+    int answerText(Operation operation, const QByteArray& command, char* answer);
+
+    ControllerLink* link;
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Recording.h"
+
+#include <QMap>
+#include <QObject>
+
+/**
+ * Answers from a recording in place of a controller. Commands must come in the recorded order; the first one that
+ * differs fails, and all that follow fail. A poll is answered from the last poll recorded before the command that is
+ * due, "no" when there is none. Polls are never compared: their number depends on how long somebody looked.
+ */
+class Replay : public QObject, public ControllerLink
+{
+    Q_OBJECT
+
+public:
+    explicit Replay(const QString& file) : file(file) {}
+
+    /** Reads the recording. False when it is damaged; problem() names file, line and reason. */
+    bool open() { return readRecording(file, &lines, &firstProblem); }
+
+    /** The controller of the first connection. Only after open(). */
+    ControllerIdentity recordedController() const;
+
+    /** What is damaged, or the first command that differed, with its line, what was expected and what came. */
+    QString problem() const { return firstProblem; }
+
+    /** Whether every command of the recording has been asked. */
+    bool isAtEnd() const;
+
+    void connected(const ControllerIdentity& controller) override { take({connectionText(controller), true, {}}); }
+    bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
+
+signals:
+    /** A command differs from the recording; \a problem says how. */
+    void differed(const QString& problem);
+
+private:
+    /** The recorded line for what is asked; a failed one when it is not the one that is due. */
+    RecordedLine take(const RecordedLine& asked);
+
+    QString file;
+    QString firstProblem;
+    QVector<RecordedLine> lines;
+    QMap<QByteArray, RecordedLine> polls;
+    int position = 0;
+};

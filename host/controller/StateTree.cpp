@@ -1,0 +1,183 @@
+#include "StateTree.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace {
+
+struct Edit
+{
+    QString place;
+    QString entered;
+};
+
+/** \a place with \a name, a key or an entry's number: "cards", "1" and "channels" make "cards 1, channels". */
+QString placeIn(const QString& place, const QString& name)
+{
+    return place.isEmpty() ? name : place + (name.at(0).isDigit() ? " " : ", ") + name;
+}
+
+/**
+ * Visits a record or a list: gives its fields the values of one JSON object, or of an edit, and adds them to a tree. A
+ * list is visited like a record whose keys are the entries' numbers. The first fault is kept in the shared error.
+ */
+class Exchange
+{
+public:
+    Exchange(const QJsonValue& json, const Edit& edit, StateNode* node, QString* error)
+        : object(json.toObject()), edit(edit), node(node), error(error)
+    {
+        refuse(node->place, json.isObject() || json.isUndefined() ? QString() : "an object is expected");
+    }
+
+    void operator()(const FieldRule& rule, QString& text) { text = next(rule, text).toString(); }
+    void operator()(const FieldRule& rule, bool& flag) { flag = next(rule, flag).toBool(); }
+    void operator()(const FieldRule& rule, double& number) { number = next(rule, number).toDouble(); }
+    void operator()(const FieldRule& rule, int& number) { number = next(rule, number).toInt(); }
+    void operator()(const FieldRule& rule, VersionInfo& version)
+    {
+        version.fromString(next(rule, version.toString()).toString());
+    }
+
+    void operator()(const FieldRule& rule, QStringList& texts)
+    {
+        visitList(rule.key, texts, [&](Exchange& list, const QString& number, QString& text) {
+            FieldRule entryRule = rule;
+            entryRule.key = number;
+            list(entryRule, text);
+        });
+    }
+
+    template <typename Entry, typename Owner>
+    void operator()(const QString& key, QVector<Entry>& entries, const Owner& owner, QString Entry::*identity = nullptr)
+    {
+        QStringList identities;
+        visitList(key, entries, [&](Exchange& list, const QString& number, Entry& entry) {
+            Exchange record(list.object.take(number), edit, list.append(number, {}, QJsonValue::Undefined), error);
+            describe(record, entry, owner);
+            record.refuseRest();
+            if (identity && identities.contains(entry.*identity))
+                refuse(record.node->place, QString("another entry is \"%1\" already").arg(entry.*identity));
+            if (identity)
+                identities.append(entry.*identity);
+        });
+    }
+
+    /** To be called when all fields are visited: what is left is unknown. */
+    void refuseRest()
+    {
+        for (auto it = object.constBegin(); it != object.constEnd(); ++it)
+            refuse(placeIn(node->place, it.key()), "unknown entry");
+    }
+
+private:
+    StateNode* append(const QString& name, const FieldRule& rule, const QJsonValue& value, bool isList = false)
+    {
+        node->children.append({name, placeIn(node->place, name), rule, value, isList});
+        return &node->children.last();
+    }
+
+    /** The value that a field gets, which has the value \a current. */
+    QJsonValue next(const FieldRule& rule, const QJsonValue& current)
+    {
+        const QString place = placeIn(node->place, rule.key);
+        QJsonValue value = object.contains(rule.key) ? object.take(rule.key) : current;
+        if (place == edit.place)
+            value = rule.parse(edit.entered);
+        refuse(place, rule.refusal(value));
+        append(rule.key, rule, value);
+        return value;
+    }
+
+    template <typename Entries, typename VisitEntry>
+    void visitList(const QString& key, Entries& entries, VisitEntry visitEntry)
+    {
+        StateNode* list = append(key, {}, QJsonValue::Undefined, true);
+        QJsonObject numbered;
+        if (object.contains(key)) {
+            const QJsonValue json = object.take(key);
+            refuse(list->place, json.isArray() ? QString() : "a list is expected");
+            entries.clear();
+            for (const QJsonValue& entry : json.toArray()) {
+                entries.append(typename Entries::value_type());
+                numbered.insert(QString::number(entries.size()), entry);
+            }
+        }
+        Exchange visit(numbered, edit, list, error);
+        for (int i = 0; i < entries.size(); ++i)
+            visitEntry(visit, QString::number(i + 1), entries[i]);
+    }
+
+    /** Keeps the reason, if there is one and it is the first. */
+    void refuse(const QString& place, const QString& reason)
+    {
+        if (error->isEmpty() && !reason.isEmpty())
+            *error = place.isEmpty() ? reason : place + ": " + reason;
+    }
+
+    QJsonObject object;
+    const Edit& edit;
+    StateNode* node;
+    QString* error;
+};
+
+/** Gives \a state the values of \a json and of the edit, unless one is refused, and makes the tree of what it is then.
+ */
+bool exchange(const QJsonValue& json, const Edit& edit, ControllerState* state, StateNode* root, QString* error)
+{
+    ControllerState changed = *state;
+    QString reason;
+    Exchange visit(json, edit, root, &reason);
+    describe(visit, changed);
+    visit.refuseRest();
+    if (reason.isEmpty())
+        *state = changed;
+    else
+        *error = reason.simplified();
+    return reason.isEmpty();
+}
+
+} // namespace
+
+QJsonValue StateNode::toJson() const
+{
+    QJsonArray array;
+    QJsonObject object;
+    for (const StateNode& child : children) {
+        if (isList)
+            array.append(child.toJson());
+        else
+            object.insert(child.name, child.toJson());
+    }
+    return isField() ? value : isList ? QJsonValue(array) : QJsonValue(object);
+}
+
+QStringList StateNode::toLines() const
+{
+    QStringList lines;
+    if (isField())
+        lines.append(place + ": " + value.toVariant().toString());
+    for (const StateNode& child : children)
+        lines += child.toLines();
+    return lines;
+}
+
+StateNode toTree(ControllerState state)
+{
+    StateNode root;
+    QString error;
+    exchange(QJsonValue::Undefined, {}, &state, &root, &error);
+    return root;
+}
+
+bool readState(const QJsonValue& json, ControllerState* state, QString* error)
+{
+    StateNode root;
+    return exchange(json, {}, state, &root, error);
+}
+
+bool editField(const QString& place, const QString& entered, ControllerState* state, QString* error)
+{
+    StateNode root;
+    return exchange(QJsonValue::Undefined, {place, entered}, state, &root, error);
+}

@@ -1,0 +1,88 @@
+#include "ControllerModel.h"
+
+#include "SimulatedController.h"
+
+#include <QFont>
+
+namespace {
+
+void showName(QStandardItem* item, const QString& name, bool isChanged)
+{
+    item->setText(isChanged ? name + " *" : name);
+    QFont font = item->font();
+    font.setBold(isChanged);
+    item->setFont(font);
+}
+
+void showValue(QStandardItem* item, const StateNode& field)
+{
+    item->setData(field.place, ControllerModel::PlaceRole);
+    item->setData(field.rule.form == FieldRule::Flag ? QStringList{"true", "false"} : field.rule.choices,
+                  ControllerModel::ChoicesRole);
+    item->setData(field.rule.form == FieldRule::Flag || field.rule.form == FieldRule::Choice,
+                  ControllerModel::IsChoiceRole);
+    item->setText(field.value.toVariant().toString());
+}
+
+} // namespace
+
+ControllerModel::ControllerModel(const SimulatedController* controller, Apply apply)
+    : controller(controller), apply(std::move(apply)), marked(toTree(controller->state()))
+{
+    setHorizontalHeaderLabels({tr("Name"), tr("Value"), tr("Unit")});
+    refresh();
+    // Refreshed from the event loop: a burst of commands is shown once, and no opening of the dialog waits for the
+    // tree.
+    timer.setSingleShot(true);
+    connect(controller, &SimulatedController::changed, &timer, QOverload<>::of(&QTimer::start));
+    connect(&timer, &QTimer::timeout, this, &ControllerModel::refresh);
+    connect(this, &QStandardItemModel::itemChanged, this, &ControllerModel::take);
+}
+
+void ControllerModel::markFromNow()
+{
+    marked = toTree(controller->state());
+    timer.start();
+}
+
+void ControllerModel::refresh()
+{
+    isRefreshing = true;
+    show(invisibleRootItem(), toTree(controller->state()), marked);
+    isRefreshing = false;
+}
+
+/** Shows the children of \a node below \a parent; \a before is the node as it was when marked. */
+void ControllerModel::show(QStandardItem* parent, const StateNode& node, const StateNode& before)
+{
+    if (parent->rowCount() > node.children.size())
+        parent->setRowCount(node.children.size());
+    for (int row = 0; row < node.children.size(); ++row) {
+        const StateNode& child = node.children.at(row);
+        const StateNode childBefore = before.children.value(row);
+        if (row == parent->rowCount())
+            parent->appendRow({new QStandardItem, new QStandardItem, new QStandardItem});
+        for (int column = 0; column < columnCount(); ++column)
+            parent->child(row, column)->setEditable(column == ValueColumn && child.isField());
+        QStandardItem* name = parent->child(row, NameColumn);
+        showName(name, child.name, child.toJson() != childBefore.toJson());
+        parent->child(row, UnitColumn)->setText(child.rule.unit);
+        if (child.isField())
+            showValue(parent->child(row, ValueColumn), child);
+        else
+            show(name, child, childBefore);
+    }
+}
+
+/** Puts an edited value in force, or the old one back. */
+void ControllerModel::take(const QStandardItem* item)
+{
+    if (isRefreshing || item->column() != ValueColumn)
+        return;
+    ControllerState state = controller->state();
+    QString reason;
+    if (editField(item->data(PlaceRole).toString(), item->text(), &state, &reason))
+        reason = apply(state);
+    emit edited(reason);
+    refresh();
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "StateTree.h"
+
+#include <QStandardItemModel>
+#include <QTimer>
+
+#include <functional>
+
+class SimulatedController;
+
+/**
+ * The simulated controller's state as an editable tree: name, value and unit of each field, in the description's order.
+ * It follows the controller; values that differ from those at the last markFromNow() are bold and have a star. GUI
+ * thread only; does not own the controller.
+ */
+class ControllerModel : public QStandardItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { NameColumn, ValueColumn, UnitColumn };
+    /** Of a value: its place in the state, the texts to choose from, and whether it takes no others. */
+    enum Role { PlaceRole = Qt::UserRole, ChoicesRole, IsChoiceRole };
+
+    /** Puts an edited state in force; returns why not, or an empty text. */
+    using Apply = std::function<QString(const ControllerState&)>;
+
+    ControllerModel(const SimulatedController* controller, Apply apply);
+
+public slots:
+    /** Marks only what changes from now on. */
+    void markFromNow();
+
+signals:
+    /** A value was edited; \a problem says why it was refused, and is empty if it was taken. */
+    void edited(const QString& problem);
+
+private:
+    void refresh();
+    void show(QStandardItem* parent, const StateNode& node, const StateNode& before);
+    void take(const QStandardItem* item);
+
+    const SimulatedController* controller;
+    Apply apply;
+    StateNode marked;
+    QTimer timer;
+    bool isRefreshing = false;
+};

@@ -1,0 +1,63 @@
+#include "FaultPane.h"
+
+#include "DevelopmentHost.h"
+
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QSpinBox>
+
+static constexpr int largestCount = 1000;
+static constexpr int latencyStep = 100; // milliseconds
+
+FaultPane::FaultPane(DevelopmentHost* host) : faults(host->faults())
+{
+    auto* layout = new QFormLayout(this);
+    layout->setContentsMargins({});
+    layout->addRow(tr("Fail the &n-th command from now"), createCount(host));
+    layout->addRow(tr("Fail commands that &match"), createPattern(host));
+    layout->addRow(tr("Each command &takes longer by"), createLatency());
+}
+
+QWidget* FaultPane::createCount(DevelopmentHost* host)
+{
+    auto* count = new QSpinBox;
+    count->setRange(0, largestCount);
+    count->setSpecialValueText(tr("none"));
+    count->setKeyboardTracking(false);
+    count->setEnabled(!host->isReplaying());
+    connect(count, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int n) { faults.failNth(n); });
+    connect(&host->channel(), &ControllerChannel::executed, count, [this, count] {
+        const QSignalBlocker blocker(count);
+        // Only if it differs: setValue() would discard a number that somebody is typing.
+        if (count->value() != faults.commandsToFailure())
+            count->setValue(faults.commandsToFailure());
+    });
+    return count;
+}
+
+QWidget* FaultPane::createPattern(DevelopmentHost* host)
+{
+    auto* pattern = new QLineEdit(faults.failing().pattern());
+    pattern->setPlaceholderText(tr("regular expression, such as output_delay.*ch02"));
+    pattern->setEnabled(!host->isReplaying());
+    connect(pattern, &QLineEdit::editingFinished, this, [this, pattern] {
+        const QRegularExpression expression(pattern->text());
+        const QString error = tr("No regular expression, the former one stays: %1").arg(expression.errorString());
+        emit said(expression.isValid() ? QString() : error);
+        if (expression.isValid())
+            faults.failMatching(expression);
+    });
+    return pattern;
+}
+
+QWidget* FaultPane::createLatency()
+{
+    auto* latency = new QSpinBox;
+    latency->setRange(0, Faults::maximumLatency);
+    latency->setSingleStep(latencyStep);
+    latency->setKeyboardTracking(false);
+    latency->setSuffix(tr(" ms"));
+    latency->setValue(faults.latency());
+    connect(latency, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int ms) { faults.setLatency(ms); });
+    return latency;
+}

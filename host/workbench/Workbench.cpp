@@ -1,0 +1,41 @@
+#include "Workbench.h"
+
+#include "CommandPane.h"
+#include "ControllerPane.h"
+#include "DevelopmentHost.h"
+#include "ReportPane.h"
+
+#include <QLabel>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+static constexpr QSize initialSize(960, 560);
+
+Workbench::Workbench(DevelopmentHost* host)
+{
+    setWindowTitle(tr("Workbench"));
+    setWindowIcon(host->window().windowIcon());
+    resize(initialSize);
+    auto* message = new QLabel;
+    message->setTextFormat(Qt::PlainText);
+    message->setWordWrap(true);
+    connect(&host->replay(), &Replay::differed, message, &QLabel::setText);
+    auto* commands = new CommandPane(host);
+    connect(commands, &CommandPane::said, message, &QLabel::setText);
+    auto* tabs = new QTabWidget;
+    tabs->addTab(commands, tr("&Commands"));
+    tabs->addTab(new ReportPane(host->channel()), tr("&Reports"));
+    if (!host->isReplaying()) {
+        auto* controller = new ControllerPane(host);
+        connect(controller, &ControllerPane::said, message, &QLabel::setText);
+        tabs->addTab(controller, tr("C&ontroller"));
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(tabs);
+    layout->addWidget(message);
+    connect(&host->window(), &MainWindow::workbenchWanted, this, [this] {
+        show();
+        raise();
+        activateWindow();
+    });
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+/** Rows of two texts for a test with the parameters "left" and "right", from a file of tests/data: "left -> right". */
+void addRows(const char* name);
+
+/** Writes \a text into \a file; fails the test when it cannot. */
+void writeFile(const QString& file, const QByteArray& text);

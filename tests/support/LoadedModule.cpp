@@ -1,0 +1,77 @@
+#include "LoadedModule.h"
+
+#include "MessageFilter.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+constexpr int pollMilliseconds = 1;
+
+} // namespace
+
+void failOnWarnings()
+{
+    takeWarnings([](const QString& message) { QTest::qFail(qPrintable("Qt says: " + message), __FILE__, __LINE__); });
+}
+
+BackendVersions backend(const QString& text)
+{
+    VersionInfo protocol(0, 0, 0);
+    bool isVersion = false;
+    protocol.fromString(text.section(' ', 0, 0), &isVersion);
+    if (!isVersion)
+        qFatal("no version: %s", qPrintable(text));
+    return {VersionInfo(1, 0, 0), protocol, VersionInfo(1, 0, 0), text.section(' ', 1)};
+}
+
+LoadedModule::LoadedModule(const QString& versionsText, const QByteArray& script)
+    : channel(&link), versions(backend(versionsText)), parent(new QWidget), loader(PLUGIN_FILE)
+{
+    failOnWarnings();
+    link.script(script);
+    link.listen(channel);
+    if (!loader.load())
+        qFatal("%s", qPrintable(loader.errorString()));
+    loader.setParameters(&channel, parent, &versions, false);
+    element = loader.module()->get_gui_elements().first();
+    QObject::connect(&boxPoller, &QTimer::timeout, &boxPoller, [this] { closeBox(); });
+    boxPoller.start(pollMilliseconds);
+    parent->show();
+}
+
+LoadedModule::~LoadedModule()
+{
+    loader.unload();
+    delete parent;
+}
+
+void LoadedModule::closeBox()
+{
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box)
+        return;
+    if (insteadOfClosingBox)
+        return std::exchange(insteadOfClosingBox, nullptr)();
+    const bool isWarning = box->icon() == QMessageBox::Critical && box->standardButtons() == QMessageBox::Ok;
+    boxes.append((isWarning ? "" : "not critical: ") + box->windowTitle().toUtf8() + ": " + box->text().toUtf8());
+    QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+}
+
+int LoadedModule::open(const DialogUser::Steps& steps) const
+{
+    int result = -3;
+    openBy([&] { QMetaObject::invokeMethod(dialog(), "update_and_exec", Q_RETURN_ARG(int, result)); }, steps);
+    return result;
+}
+
+void LoadedModule::openBy(const DialogUser::Steps& trigger, const DialogUser::Steps& steps) const
+{
+    // As in a host: the focus goes from its window to the dialog.
+    parent->activateWindow();
+    QApplication::processEvents();
+    QVERIFY(QTest::qWaitFor([this] { return parent->isActiveWindow(); }));
+    QVERIFY2(user().openBy(trigger, steps) != DialogUser::LeftOpen, "the dialog was left open");
+}

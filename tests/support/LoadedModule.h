@@ -1,0 +1,67 @@
+#pragma once
+
+#include "BackendVersions.h"
+#include "ControllerChannel.h"
+#include "DialogText.h"
+#include "DialogUser.h"
+#include "ModuleLoader.h"
+#include "ScriptedLink.h"
+
+#include <QDialog>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+/** The built plug-in, loaded as a host loads it, on a scripted controller. Every Qt warning fails the test. */
+class LoadedModule
+{
+public:
+    /** Over protocol and model "1.23 FERNBANK", and with changes of the standard answers. */
+    explicit LoadedModule(const QString& versionsText = "1.23 FERNBANK", const QByteArray& script = QByteArray());
+    ~LoadedModule();
+
+    QDialog* dialog() const { return qobject_cast<QDialog*>(element->content); }
+    /** The hands on the dialog as it is now. */
+    DialogUser user() const { return DialogUser(dialog()); }
+
+    template <typename Widget>
+    Widget* find(const char* name) const
+    {
+        return dialog()->findChild<Widget*>(name);
+    }
+
+    /** Opens the dialog by its slot and runs \a steps inside its modal loop; what update_and_exec() returned. */
+    int open(const DialogUser::Steps& steps) const;
+    /** The same, opening it by \a trigger; fails the test when \a steps leave it open. */
+    void openBy(const DialogUser::Steps& trigger, const DialogUser::Steps& steps) const;
+    /** Opens the dialog and leaves by Escape. */
+    int look() const
+    {
+        return open([this] { user().leave("Escape"); });
+    }
+
+    /** Content and state of the named widget, as textOfWidget() puts it. */
+    QByteArray see(const QByteArray& name) const { return textOfWidget(find<QWidget>(name)).toUtf8(); }
+
+    ScriptedLink link;
+    ControllerChannel channel;
+    BackendVersions versions;
+    QPointer<QWidget> parent;
+    ModuleLoader loader;
+    GuiElement* element = nullptr;
+    QByteArrayList boxes;                                // "title: text" of each message box shown, then closed by OK
+    std::function<void()> insteadOfClosingBox = nullptr; // run while a box is open
+
+private:
+    void closeBox();
+
+    QTimer boxPoller;
+};
+
+/** The versions of a controller from a protocol and its model, "1.10 QUILLSTONE 3". */
+BackendVersions backend(const QString& text);
+
+/** Fails the running test at any Qt warning but the offscreen platform's own. */
+void failOnWarnings();

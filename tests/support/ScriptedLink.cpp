@@ -1,0 +1,62 @@
+#include "ScriptedLink.h"
+
+#include "ControllerChannel.h"
+
+#include <QFile>
+
+ScriptedLink::ScriptedLink()
+{
+    QFile file(DATA_DIR "/standard-controller.txt");
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s", qPrintable(file.errorString()));
+    script(file.readAll().replace('\n', ';'));
+}
+
+void ScriptedLink::script(const QByteArray& changes)
+{
+    const QByteArrayList all = changes.split(';');
+    for (const QByteArray& change : all) {
+        const int separator = change.indexOf('=');
+        if (separator > 0)
+            answers.insert(change.left(separator), change.mid(separator + 1));
+    }
+}
+
+void ScriptedLink::restart(const Answers& newAnswers, int first, int end)
+{
+    answers = newAnswers;
+    firstFailing = first;
+    endOfFailing = end;
+    commands.clear();
+    failed.clear();
+    reports.clear();
+}
+
+void ScriptedLink::listen(const ControllerChannel& channel)
+{
+    QObject::connect(&channel, &ControllerChannel::executed, [this](const CommandRecord& record) {
+        if (record.result != 0)
+            failed.append(commands.size());
+        commands.append(record.text());
+    });
+    QObject::connect(&channel, &ControllerChannel::reported,
+                     [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
+                         const bool isConvention = category == "standard" && systemTag == "ZORVAN3" && flag == 1;
+                         reports.append((isConvention ? "" : "wrong convention: ") + message.toLatin1());
+                     });
+}
+
+bool ScriptedLink::execute(Operation operation, const QByteArray& command, QByteArray* answer)
+{
+    if (commands.size() >= firstFailing && commands.size() < endOfFailing)
+        return false;
+    const bool isSet = operation == Operation::Set;
+    *answer = answers.value(textOf(operation) + ' ' + command, answers.value(command, isSet ? "" : "!"));
+    if (isSet && *answer != "!") {
+        const int separator = command.lastIndexOf(' ');
+        const auto name = answers.find(command.left(separator));
+        if (name != answers.end())
+            *name = command.mid(separator + 1);
+    }
+    return *answer != "!";
+}

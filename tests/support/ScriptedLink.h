@@ -1,0 +1,49 @@
+#pragma once
+
+#include "CommandRecord.h"
+#include "ControllerLink.h"
+
+#include <QByteArrayList>
+#include <QMap>
+#include <QVector>
+
+#include <utility>
+
+class ControllerChannel;
+
+/**
+ * The controller of most tests: answers from a table, takes over what is set, and fails what it is told to fail. It
+ * keeps each command behind its operation ("get synccard available"), and each report of the channel above it.
+ */
+class ScriptedLink : public ControllerLink
+{
+public:
+    /** By command, "!" for one that fails; a command behind its operation means that operation only. */
+    using Answers = QMap<QByteArray, QByteArray>;
+
+    /** Answers as tests/data/standard-controller.txt says. */
+    ScriptedLink();
+
+    /** Changes answers: "command=answer" each, separated by semicolons. */
+    void script(const QByteArray& changes);
+
+    /** Forgets what was asked and reported. Fails the commands from \a first to the one before \a end, from 0. */
+    void restart(const Answers& newAnswers, int first = 0, int end = 0);
+
+    /** Keeps what \a channel carries and what is reported to it. */
+    void listen(const ControllerChannel& channel);
+
+    QByteArrayList takeCommands() { return std::exchange(commands, {}); }
+    QByteArrayList takeReports() { return std::exchange(reports, {}); }
+
+    bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
+
+    Answers answers;
+    QByteArrayList commands;
+    QVector<int> failed; // positions in commands
+    QByteArrayList reports;
+
+private:
+    int firstFailing = 0;
+    int endOfFailing = 0;
+};
