@@ -6,11 +6,12 @@ class QDialog;
 class QWidget;
 
 /**
- * Content and state of a widget: a selector as "*text=data|..." with the star at the current item, a spin box as
- * "minimum..maximum:value", a table row by row, a label by its text; behind it " off" when disabled and " hidden" when
- * hidden. A cell is its text, "<data>", "x" or "o" for a checked or unchecked box, "~" when disabled.
+ * Content and state of a widget as one text. A selector reads "*text=data|..." with a star at the current item, a spin
+ * box "minimum..maximum:value", a table row by row "cell,cell|...", a label its text; " off" follows when it is
+ * disabled, " hidden" when it is hidden. A cell reads as its text, "<data>", "x" or "o" for a checked or unchecked box,
+ * and "~" when it is disabled.
  */
 QString textOfWidget(const QWidget* widget);
 
-/** The form's widgets so, a line each behind the widget's name. */
+/** A line "name: text" for each widget of the form. */
 QStringList textOfDialog(const QDialog* dialog);

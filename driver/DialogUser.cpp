@@ -29,18 +29,18 @@ DialogUser::Outcome DialogUser::openBy(const Steps& trigger, const Steps& steps)
     QObject::connect(&poller, &QTimer::timeout, target, [&] {
         if (outcome != NotShown)
             return;
-        // Counted from the dialog's own event loop: slow commands may have come before.
+        // The time counts from the dialog's own event loop on: reading may have taken long before.
         if (!shown.isValid())
             shown.start();
         if (QApplication::activeModalWidget() != target)
             return shown.elapsed() > deadlineMilliseconds ? close() : void();
         outcome = Closed;
-        // A window counts as active while its parent is; the keyboard is the dialog's only when it has the focus.
+        // A dialog counts as active already when its parent is. Keys reach it only when its own window has the focus.
         const auto hasFocus = [this] {
             return QApplication::activeWindow() == target && QApplication::focusWindow() == target->windowHandle();
         };
         target->activateWindow();
-        QApplication::processEvents(); // or each opening would wait for the next look at the focus
+        QApplication::processEvents(); // without it, qWaitFor() sleeps once in each opening
         if (QTest::qWaitFor(hasFocus))
             steps();
         close();

@@ -7,7 +7,7 @@
 
 class QDoubleSpinBox;
 
-/** A user's hands on the module's dialog: real key and mouse events, on any platform plug-in. Does not own it. */
+/** Uses the module's dialog like a person, by key and mouse events, on any platform plug-in. Does not own it. */
 class DialogUser
 {
 public:
@@ -15,13 +15,13 @@ public:
 
     enum Outcome {
         NotShown,
-        Closed,   // by the steps
-        LeftOpen, // by the steps, and closed then
+        Closed,   // the steps closed it
+        LeftOpen, // the steps did not close it; openBy() did
     };
 
     explicit DialogUser(QDialog* dialog) : target(dialog) {}
 
-    /** Runs \a trigger, which opens the dialog modally, and once it is up and active, inside it, \a steps. */
+    /** Runs \a trigger, which opens the dialog modally. Runs \a steps while it is open, once it is active. */
     Outcome openBy(const Steps& trigger, const Steps& steps) const;
 
     /** The dialog; null once it is deleted. */
@@ -39,9 +39,10 @@ public:
     void focus(Qt::Key key) const;
     /** Picks the item with the user data \a data by keys; false when there is none. */
     bool choose(const char* name, const QString& data) const;
-    /** Clicks into a channel cell, on the check box if it has one; nowhere when there is no such cell. */
+    /** Clicks into a channel cell, on its check box if it has one. Does nothing when there is no such cell. */
     void clickCell(int row, int column) const;
-    /** Opens the delay editor of \a row by a double click, once an earlier one is gone; null when it does not open. */
+    /** Opens the delay editor of \a row by a double click, after an earlier one has gone. Null when it does not open.
+     */
     QDoubleSpinBox* editDelay(int row) const;
     /** Replaces the editor's text by \a text and leaves it by \a key; does nothing without an editor. */
     static void type(QWidget* editor, const QString& text, Qt::Key key = Qt::Key_Tab);

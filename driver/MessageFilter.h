@@ -3,7 +3,7 @@
 #include <QString>
 
 /**
- * From now on \a take gets each warning of Qt, and each worse message. Qt's debug messages are dropped, and so is what
- * the offscreen platform says of each window of fixed size.
+ * Calls \a take for each warning or error that Qt prints from now on. Drops debug messages, and the message that the
+ * offscreen platform prints for each window of fixed size.
  */
 void takeWarnings(void (*take)(const QString& message));

@@ -21,9 +21,9 @@ public:
     /** Opens the recordings and connects to the controller. Returns why it cannot, or an empty text. */
     QString start();
 
-    /** Connects to a controller of this state; the versions follow it. */
+    /** Connects to a controller of this \a state: sets the versions, and tells the links. */
     void connectTo(const ControllerState& state);
-    /** Puts \a state in force; connects anew only if protocol or model are others. */
+    /** Puts \a state in force; connects again only if protocol or model differ. */
     void setState(const ControllerState& state);
 
     bool isReplaying() const { return !setup.replay.isEmpty(); }

@@ -7,7 +7,7 @@
 void print(const QString& line)
 {
     static_cast<void>(std::fputs(qPrintable(line + '\n'), stdout));
-    static_cast<void>(std::fflush(stdout)); // keeps the order beside standard error
+    static_cast<void>(std::fflush(stdout)); // so that lines on standard error come in order
 }
 
 int fail(const QString& message)

@@ -16,12 +16,12 @@ public:
     bool start();
     QString errorString() const { return error; }
 
-    /** Ends the module and starts it anew before a controller of this state. False like start(). */
+    /** Ends the module, connects to a controller of this \a state and starts the module again. False like start(). */
     bool restart(const ControllerState& state);
 
     /**
-     * Puts \a state in force while the module stays loaded. A protocol on the other side of 0.13 loads it anew: a
-     * dialog that met a legacy controller keeps its labels hidden. Returns why not, or an empty text.
+     * Puts \a state in force. The module stays loaded, but is loaded again if the protocol crosses 0.13, because a
+     * dialog that has met a legacy controller keeps labels hidden. Returns why it cannot, or an empty text.
      */
     QString changeState(const ControllerState& state);
 
@@ -44,5 +44,5 @@ private:
     QString error;
     Backend backend;
     MainWindow mainWindow;
-    ModuleLoader loader; // last: the module ends before what it was handed
+    ModuleLoader loader; // last, so that the module ends before the objects it uses
 };

@@ -12,12 +12,12 @@ HostOptions::HostOptions(const QString& description)
     parser.setApplicationDescription(description);
     parser.addOption({{"h", "help"}, "Shows this help."});
     parser.addOption({{"v", "version"}, "Shows the version."});
-    parser.addOption({"list", "Lists the controllers that have a name."});
+    parser.addOption({"list", "Lists the named controllers."});
     parser.addOption({"controller", "Simulates <controller>: a name of --list, or a file (JSON).", "controller"});
-    parser.addOption({"protocol", "Lets the controller speak protocol <version>, such as 0.12.7 or 1.23.", "version"});
+    parser.addOption({"protocol", "Sets the controller's protocol to <version>, such as 0.12.7 or 1.23.", "version"});
     parser.addOption({"plugin", "Loads the module from <file>.", "file"});
-    parser.addOption({"fail", "Fails every command that the regular expression <pattern> is found in.", "pattern"});
-    parser.addOption({"latency", "Lets each command take <ms> longer, 0 to 5000.", "ms", "0"});
+    parser.addOption({"fail", "Fails every command in which the regular expression <pattern> is found.", "pattern"});
+    parser.addOption({"latency", "Makes each command take <ms> milliseconds longer, 0 to 5000.", "ms", "0"});
     parser.addOption({"record", "Writes every command into <file>.", "file"});
     parser.addOption({"replay", "Answers from the recording <file> instead of a simulated controller.", "file"});
 }
@@ -106,7 +106,7 @@ bool HostOptions::checkRecordings()
     if (!parser.isSet("replay"))
         return true;
     if (parser.isSet("fail"))
-        return refuse("--fail: a replay fails what was recorded as failed");
+        return refuse("--fail: not with --replay, which fails the commands that failed when they were recorded");
     if (QFileInfo(host.record) == QFileInfo(host.replay))
         return refuse(host.record + ": --record would overwrite what --replay reads");
     return true;

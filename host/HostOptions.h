@@ -4,7 +4,7 @@
 
 #include <QCommandLineParser>
 
-/** How a program ends before it has begun. */
+/** How a program ends right after its command line was read. */
 struct Ending
 {
     QString text;
@@ -24,16 +24,16 @@ public:
     void addOption(const QCommandLineOption& option) { parser.addOption(option); }
 
     /**
-     * Reads the program's arguments, before there is a QApplication: that would take --plugin for its own and needs a
-     * display. False when the program shall end with ending(): after --help, --version and --list, or with status 2
-     * after a mistake.
+     * Reads the program's arguments, before there is a QApplication: QApplication takes --plugin for
+     * itself and needs a display. Returns false when the program must end with ending(): after --help, --version or
+     * --list, and with status 2 after a mistake.
      */
     bool parse(int argc, char* argv[]);
     const Ending& ending() const { return itsEnding; }
 
     QString value(const QString& option) const { return parser.value(option); }
 
-    /** What the arguments say; without them the built-in controller and the plug-in beside the program. */
+    /** What the arguments ask for; by default the built-in controller and the plug-in beside the program. */
     const HostSetup& setup() const { return host; }
 
     /** The folder of the named controllers, a file NAME.json each. Needs a QCoreApplication. */

@@ -4,13 +4,13 @@
 
 #include <QRegularExpression>
 
-/** What a host program is told to be. */
+/** What the command line of a host program asks for. */
 struct HostSetup
 {
     ControllerState state = ControllerState::builtIn();
-    QString pluginFile;         // if empty, the one beside the program
-    QString record;             // file to write, if any
-    QString replay;             // file to answer from instead of the simulated controller, if any
-    QRegularExpression failing; // commands that fail
-    int latency = 0;            // milliseconds
+    QString pluginFile;         // empty: the one beside the program
+    QString record;             // the file to record into; empty: none
+    QString replay;             // the recording that answers in place of the simulated controller; empty: none
+    QRegularExpression failing; // commands in which it is found fail
+    int latency = 0;            // milliseconds that each command takes longer
 };

@@ -13,7 +13,7 @@ MainWindow::MainWindow()
 {
     setWindowTitle(tr("Development Host"));
     setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon));
-    // With it, a window without parent stays usable while a dialog of this window is open.
+    // A modal dialog blocks only windows of the same group: the workbench, which has no parent, stays usable.
     setAttribute(Qt::WA_GroupLeader);
     auto* hint = new QLabel(tr("The module's entry is in the menu Hardware.\n"
                                "The workbench shows what it asks, and what the controller is."));

@@ -26,7 +26,7 @@ void insert(QWidget* menu, QAction* action, int order)
     menu->insertAction(next == actions.end() ? nullptr : *next, action);
 }
 
-/** The menu \a title of \a menuBar, made at its place when there is none yet. */
+/** The menu \a title of \a menuBar, created at its place in the bar if it does not exist. */
 QMenu* menuFor(QMenuBar* menuBar, const QString& title, int order)
 {
     const QList<QAction*> actions = menuBar->actions();
@@ -43,7 +43,7 @@ QMenu* menuFor(QMenuBar* menuBar, const QString& title, int order)
 
 ModuleLoader::ModuleLoader(const QString& file) : file(QFileInfo(file).absoluteFilePath()), loader(this->file)
 {
-    // Qt would keep the library mapped for good.
+    // By default Qt never unmaps a plug-in.
     loader.setLoadHints(QLibrary::LoadHints());
 }
 

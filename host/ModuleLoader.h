@@ -9,9 +9,9 @@ class IOManager;
 class QMenuBar;
 
 /**
- * One module plug-in, from the file to its place in the menus and back. load() first, then setParameters(), then
- * placeElements(); unload() or the destructor ends the module in the order of the contract. What is handed over
- * stays the caller's and must outlive the module.
+ * Loads one module plug-in, places its menu entries, and ends it. Call load(), then setParameters(), then
+ * placeElements(); unload() or the destructor ends the module in the order that ModuleInterface asks for. What
+ * setParameters() hands over stays the caller's and must outlive the module.
  */
 class ModuleLoader
 {

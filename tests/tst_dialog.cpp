@@ -78,8 +78,7 @@ void TestDialog::editsDelays()
     QVERIFY(module.link.commands.contains("set synccard output_delay d01 ch02 0.000000"));
 }
 
-/** The dialog may die with its parent or its module while it is open, and while the warning is: nothing more is sent.
- */
+/** The host may delete the parent, or end the module, while dialog or warning are open: nothing more is sent. */
 void TestDialog::survivesTheHost()
 {
     for (const int kind : {0, 1, 2, 3}) {

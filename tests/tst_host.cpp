@@ -22,7 +22,7 @@ private slots:
     void placesTheEntry();
 };
 
-/** A mistake on the command line is one line that names place and remedy, and exit status 2. */
+/** A mistake on the command line prints one line with place and remedy, and ends with status 2. */
 void TestHost::namesWhatIsWrong()
 {
     const QString noModule = ": expected a module plug-in \"org.zorvan.Zorvan2.SnyccardSettingsModule\", found ";
@@ -37,7 +37,8 @@ void TestHost::namesWhatIsWrong()
         {"--latency=5001", "--latency 5001: milliseconds from 0 to 5000 are expected"},
         {"--fail=(", "--fail (: missing closing parenthesis"},
         {"--record=", "--record: a file is expected"},
-        {"--replay=a --fail=b", "--fail: a replay fails what was recorded as failed"},
+        {"--replay=a --fail=b",
+         "--fail: not with --replay, which fails the commands that failed when they were recorded"},
         {"--replay=/none", "/none: No such file or directory"},
         {"x", "Unexpected argument 'x'. See --help."},
         {"--protocol=1", "--protocol 1: a version such as 1.23 or 1.23.0 is expected"},
@@ -63,7 +64,7 @@ void TestHost::opensControllers_data()
     addRows("controllers.txt");
 }
 
-/** What a controller of the list shows in its dialog, or answers to a set. */
+/** Each named controller shows one thing in the dialog, or answers one set, that it exists for. */
 void TestHost::opensControllers()
 {
     QFETCH(QByteArray, left);

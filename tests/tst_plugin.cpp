@@ -29,7 +29,7 @@ private slots:
 
 namespace {
 
-/** Marks every text it is asked for; a shortcut must stay one. */
+/** Puts a "#" before each text of the module, except the shortcut, which must stay a key. */
 class MarkingTranslator : public QTranslator
 {
 public:
@@ -120,7 +120,7 @@ void TestPlugin::offersOneEntry()
     QVERIFY(!action);
 }
 
-/** Keys are exact; a value that cannot be converted counts as none, and without any there is no synccard. */
+/** Other names are ignored, and values that cannot be converted are null; without channel there is no synccard. */
 void TestPlugin::takesParameters()
 {
     LoadedModule module;
@@ -153,7 +153,7 @@ void TestPlugin::leavesNothing()
         {
             LoadedModule module("1.23", "synccard number_of_synccards=1;synccard synccard d01=0x0402 0");
             module.look();
-            // The style keeps the text painted last until it paints another one, when the plug-in is gone.
+            // The style keeps the text of the cell it painted last, and reads it again when it paints the next one.
             module.find<QTableWidget>("tableWidget_synccards")->grab();
             file = module.loader.fileName();
         }

@@ -1,6 +1,6 @@
 #include "Session.h"
 
-/** Whole sessions with the dialog, as data/sessions.txt tells them. */
+/** Whole sessions with the dialog, described in data/sessions.txt. */
 class TestSessions : public QObject
 {
     Q_OBJECT

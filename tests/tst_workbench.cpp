@@ -73,8 +73,8 @@ QByteArray recorded(const QString& file)
 
 } // namespace
 
-/** The recorded controller is shown, whatever else is set up; polls may be more or fewer. The first command that
- * differs fails, and all that follow. */
+/** A replay shows the recorded controller, whatever the setup says, and ignores the number of polls. The first
+ * command that differs fails, and all that follow fail. */
 void TestWorkbench::replaysWhatItRecorded()
 {
     QTemporaryDir folder;
@@ -104,7 +104,7 @@ void TestWorkbench::replaysWhatItRecorded()
     QCOMPARE(differing.replay().problem(), expected.arg(file).arg(line));
 }
 
-/** A value that cannot be is refused; a protocol on the other side of 0.13 gets a module loaded anew. */
+/** The tree refuses impossible values. A protocol that crosses 0.13 loads the module again. */
 void TestWorkbench::editsTheController()
 {
     DevelopmentHost host(setup());

@@ -11,7 +11,7 @@
 #include <QTest>
 
 static constexpr int boxPollMilliseconds = 5;
-static constexpr int pollDeadlineMilliseconds = 20000; // its two commands may be slow
+static constexpr int pollDeadlineMilliseconds = 20000; // a poll's two commands may be slow
 
 static void printCommand(const CommandRecord& record)
 {
@@ -55,7 +55,7 @@ int Tour::run()
     return hasFailed() ? 1 : 0;
 }
 
-/** Ends the module and starts it before another controller. */
+/** Ends the module and starts it again with a controller of this \a state. */
 void Tour::restart(const ControllerState& state)
 {
     if (hasFailed())
@@ -65,7 +65,7 @@ void Tour::restart(const ControllerState& state)
         user = std::make_unique<DialogUser>(host.dialog());
 }
 
-/** Opens the dialog by its shortcut, lets \a steps leave it, and looks at what the controller has become. */
+/** Opens the dialog by its shortcut, runs \a steps, which must close it, and compares the controller's state. */
 void Tour::visit(const QString& title, const DialogUser::Steps& steps)
 {
     if (hasFailed())
@@ -78,12 +78,12 @@ void Tour::visit(const QString& title, const DialogUser::Steps& steps)
         user->openBy([this] { QTest::keyClick(&host.window(), Qt::Key_F7, Qt::ShiftModifier); }, steps);
     demand(outcome != DialogUser::NotShown, title + ": the dialog was not shown");
     demand(outcome != DialogUser::LeftOpen, title + ": the dialog did not close");
-    // A recording knows what was asked, not what the controller has become.
+    // A recording has answers, but no state.
     if (!host.isReplaying())
         compareState(title);
 }
 
-/** Holds each field of the controller against what the visit \a title must leave. */
+/** Compares each field of the controller with the state that the visit \a title expects. */
 void Tour::compareState(const QString& title)
 {
     const QStringList wanted = toTree(expected).toLines();
@@ -100,7 +100,7 @@ void Tour::waitForPoll()
            "the sync input is not polled");
 }
 
-/** The tour does nothing that should fail: it ends with the first warning. */
+/** Nothing in the tour should fail, so a warning box ends it. */
 void Tour::closeBox()
 {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -120,7 +120,7 @@ void Tour::look(const QString& name)
     }
     if (pictureFolder.isEmpty() || hasFailed())
         return;
-    // A layout of fixed size follows what was shown or hidden one turn of the event loop later.
+    // A dialog of fixed size takes its new size one turn of the event loop after widgets were shown or hidden.
     QTest::qWait(1);
     const QString file = QDir(pictureFolder).filePath(name + ".png");
     demand(user->dialog()->grab().save(file), file + ": cannot be written");

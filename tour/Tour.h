@@ -10,14 +10,14 @@
 #include <memory>
 
 /**
- * Walks through the dialog without a person: changes settings, takes changes back, meets a legacy, a locked and a
- * card-less controller. Prints every command with answer and result, and what the dialog shows, and compares the
- * controller after each visit with what the visit must leave. Needs a QApplication.
+ * Visits the dialog like a person: changes settings, cancels changes, meets a legacy controller, a locked one and one
+ * without synccard. Prints every command with its answer, and what the dialog shows. After each visit it compares the
+ * state of the controller with the expected one. Needs a QApplication.
  */
 class Tour
 {
 public:
-    /** Pictures go into \a pictureFolder, if it is not empty. */
+    /** Saves pictures into \a pictureFolder unless that is empty. */
     Tour(const HostSetup& setup, const QString& pictureFolder);
 
     /**
@@ -36,7 +36,7 @@ private:
     void meetLockedController();
     void meetControllerWithoutSynccard();
 
-    // What they are made of: Tour.cpp
+    // The steps that visits share: Tour.cpp
     void restart(const ControllerState& state);
     void visit(const QString& title, const DialogUser::Steps& steps);
     void compareState(const QString& title);

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** What OK leaves of a card's direct settings: two decimals of the frequency, whole microseconds of the delays. */
+/** OK writes the frequency with two decimals, and delays in whole microseconds, as the dialog shows them. */
 void roundAsShown(CardState* card)
 {
     if (card->source == "internal")
@@ -48,7 +48,7 @@ void Tour::takeSourceBack()
         user->focus(Qt::Key_C);
         user->press("comboBox_source", Qt::Key_Down);
         look("external-source");
-        // The source comes back; what its change took along, divisor and output, does not.
+        // Cancel restores the source, but not the divisor and the output that the controller changed with it.
         CardState& card = expected.cards.first();
         const SourceState* visited = card.findSource(sources->currentData().toString());
         if (!demand(visited && visited->keyword != card.source, "the controller offers no second source"))

@@ -32,12 +32,11 @@ RecordedLine Replay::take(const RecordedLine& asked)
 {
     for (; position < lines.size() && isPoll(lines.at(position)); ++position)
         polls.insert(lines.at(position).text, lines.at(position));
-    const RecordedLine failure{asked.text, false, {}};
     if (!firstProblem.isEmpty())
-        return failure;
+        return {asked.text, false, {}};
     if (isPoll(asked))
         return polls.value(asked.text, asked);
-    const RecordedLine due = lines.value(position);
+    RecordedLine due = lines.value(position);
     if (due.text == asked.text) {
         ++position;
         return due;
@@ -48,5 +47,5 @@ RecordedLine Replay::take(const RecordedLine& asked)
                             isAtEnd ? "the end of the recording" : '"' + QString::fromLatin1(due.text) + '"',
                             QString::fromLatin1(asked.text));
     emit differed(firstProblem);
-    return failure;
+    return {asked.text, false, {}};
 }

@@ -98,7 +98,8 @@ private:
             const QJsonValue json = object.take(key);
             refuse(list->place, json.isArray() ? QString() : "a list is expected");
             entries.clear();
-            for (const QJsonValue& entry : json.toArray()) {
+            const QJsonArray array = json.toArray();
+            for (const auto& entry : array) {
                 entries.append(typename Entries::value_type());
                 numbered.insert(QString::number(entries.size()), entry);
             }

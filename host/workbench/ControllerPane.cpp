@@ -4,9 +4,7 @@
 #include "CommandTraits.h"
 #include "DevelopmentHost.h"
 
-#include <QHeaderView>
-
-static constexpr int nameColumnWidth = 220; // pixels
+static constexpr int initialColumnWidth = 240; // pixels
 
 ControllerPane::ControllerPane(DevelopmentHost* host)
     : model(&host->controller(), [host](const ControllerState& state) { return host->changeState(state); })
@@ -14,10 +12,8 @@ ControllerPane::ControllerPane(DevelopmentHost* host)
     setModel(&model);
     setAccessibleName(tr("Simulated controller"));
     setItemDelegateForColumn(ControllerModel::ValueColumn, new ChoiceDelegate(this));
-    setColumnWidth(ControllerModel::NameColumn, nameColumnWidth);
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(ControllerModel::ValueColumn, QHeaderView::Stretch);
-    header()->setSectionResizeMode(ControllerModel::UnitColumn, QHeaderView::ResizeToContents);
+    setColumnWidth(ControllerModel::NameColumn, initialColumnWidth);
+    setColumnWidth(ControllerModel::ValueColumn, initialColumnWidth);
     setEditTriggers(NoEditTriggers);
     connect(this, &QTreeView::activated, this, &ControllerPane::editValue);
     connect(&model, &ControllerModel::edited, this, &ControllerPane::said);

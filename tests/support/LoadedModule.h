@@ -18,12 +18,12 @@
 class LoadedModule
 {
 public:
-    /** Over protocol and model "1.23 FERNBANK", and with changes of the standard answers. */
+    /** \a versionsText is protocol and model, \a script changes the standard answers. */
     explicit LoadedModule(const QString& versionsText = "1.23 FERNBANK", const QByteArray& script = QByteArray());
     ~LoadedModule();
 
     QDialog* dialog() const { return qobject_cast<QDialog*>(element->content); }
-    /** The hands on the dialog as it is now. */
+    /** Uses the dialog that exists now. */
     DialogUser user() const { return DialogUser(dialog()); }
 
     template <typename Widget>
@@ -32,9 +32,9 @@ public:
         return dialog()->findChild<Widget*>(name);
     }
 
-    /** Opens the dialog by its slot and runs \a steps inside its modal loop; what update_and_exec() returned. */
+    /** Opens the dialog by its slot, runs \a steps while it is open, and returns what update_and_exec() returned. */
     int open(const DialogUser::Steps& steps) const;
-    /** The same, opening it by \a trigger; fails the test when \a steps leave it open. */
+    /** Opens it by \a trigger instead; fails the test when \a steps leave it open. */
     void openBy(const DialogUser::Steps& trigger, const DialogUser::Steps& steps) const;
     /** Opens the dialog and leaves by Escape. */
     int look() const

@@ -27,7 +27,7 @@ SessionFile::SessionFile(const char* name)
     }
 }
 
-/** The line itself, or for "@NAME A|B" the lines of that list. */
+/** The line itself; for "@NAME A|B" the lines of the list NAME, with A and B in place of %1 and %2. */
 QByteArrayList SessionFile::expanded(const QByteArray& line) const
 {
     if (!line.startsWith('@'))
