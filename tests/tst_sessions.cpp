@@ -1,4 +1,7 @@
-#include "Session.h"
+#include "Files.h"
+#include "SessionRun.h"
+
+#include <QTemporaryDir>
 
 /** Whole sessions with the dialog, described in data/sessions.txt. */
 class TestSessions : public QObject
@@ -8,80 +11,56 @@ class TestSessions : public QObject
 private slots:
     void runs_data();
     void runs();
+    void findsMistakes_data();
+    void findsMistakes();
 };
 
-namespace {
-
-void compareWidgets(const LoadedModule& module, const QByteArrayList& expectations)
-{
-    for (const QByteArray& expected : expectations) {
-        const QByteArray name = expected.left(expected.indexOf(':'));
-        const QByteArray content = module.see(name);
-        QCOMPARE(name + ':' + (content.isEmpty() ? "" : " ") + content, expected);
-    }
-}
-
-void compareOpening(LoadedModule& module, const Session& session)
-{
-    QByteArrayList asked = session.value("asks");
-    for (const QByteArray& text : session.value("unasked"))
-        asked.erase(std::remove_if(asked.begin(), asked.end(), [&](auto& line) { return line.contains(text); }),
-                    asked.end());
-    const QByteArrayList commands = module.link.takeCommands();
-    if (session.contains("asks"))
-        QCOMPARE(commands, asked);
-    QCOMPARE(module.link.takeReports(), session.value("report"));
-    compareWidgets(module, session.value("shows"));
-}
-
-/** The second opening of a case. */
-void openAgain(LoadedModule& module, const Session& session)
-{
-    module.versions = backend(session.value("again-protocol", session.value("protocol")).first());
-    module.link.script(session.value("again").join(';'));
-    const bool isShown = module.open([&] {
-        compareWidgets(module, session.value("again-shows"));
-        module.link.takeCommands();
-        for (const QByteArray& action : session.value("again-user"))
-            act(module, action);
-        module.user().leave(session.value("again-leave", {"OK"}).first());
-    }) >= 0;
-    QVERIFY(isShown);
-    QCOMPARE(module.link.commands, session.value("again-sends"));
-}
-
-} // namespace
+static const QByteArrayList keys = {
+    "protocol", "answer", "asks",       "unasked",     "shows",          "report",       "stops",      "later",
+    "user",     "after",  "sends",      "ok",          "cancel",         "sends-report", "ok-report",  "cancel-report",
+    "ok-box",   "again",  "again-user", "again-shows", "again-protocol", "again-leave",  "again-sends"};
 
 void TestSessions::runs_data()
 {
-    addSessions("sessions.txt");
+    addSessions("sessions.txt", keys);
 }
 
 void TestSessions::runs()
 {
     QFETCH(Session, session);
-    for (const char* way : {"OK", "Cancel", "Escape", "close"}) {
-        LoadedModule module(session.value("protocol").first(), session.value("answer").join(';'));
-        bool isOk = qstrcmp(way, "OK") == 0;
-        const int result = module.open([&] {
-            compareOpening(module, session);
-            module.link.script(session.value("later").join(';'));
-            for (const QByteArray& action : session.value("user"))
-                act(module, action);
-            compareWidgets(module, session.value("after"));
-            isOk = isOk && module.see("pushButton_Ok") != " off";
-            module.user().leave(isOk || qstrcmp(way, "OK") != 0 ? way : "Cancel");
-        });
-        QCOMPARE(result == -1, session.contains("stops"));
-        if (result == -1)
-            return compareOpening(module, session);
-        QCOMPARE(result, int(isOk ? QDialog::Accepted : QDialog::Rejected));
-        QCOMPARE(module.link.commands, session.value(isOk ? "ok" : "cancel"));
-        QCOMPARE(module.link.reports, session.value(isOk ? "ok-report" : "cancel-report"));
-        QCOMPARE(module.boxes, isOk ? session.value("ok-box") : QByteArrayList());
-        if (session.contains("again"))
-            openAgain(module, session);
+    const QString problem = SessionRun::problemOf(session);
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+}
+
+/** data/mistakes.txt holds small session files, each behind the message that it must give. */
+void TestSessions::findsMistakes_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message");
+    QFile file(DATA_DIR "/mistakes.txt");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray all = '\n' + file.readAll();
+    const QByteArrayList parts = all.replace("\n= ", QByteArray(1, '\0')).split('\0').mid(1);
+    for (const QByteArray& part : parts) {
+        const QByteArray message = part.left(part.indexOf('\n'));
+        QTest::newRow(message) << part.mid(message.size() + 1) << QString(message).replace("\\n", "\n");
     }
+}
+
+void TestSessions::findsMistakes()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, message);
+    QTemporaryDir folder;
+    writeFile(folder.filePath("a"), text);
+    const SessionFile file(folder.filePath("a"), keys);
+    QString found = file.mistakes.value(0);
+    for (int i = 0; i < file.sessions.size() && found.isEmpty(); ++i) {
+        Session session = file.sessions.at(i);
+        session.lines["protocol"] = {{"1.23", 0}};
+        found = SessionRun::problemOf(session);
+    }
+    QCOMPARE(found, message);
 }
 
 QTEST_MAIN(TestSessions)

@@ -31,7 +31,8 @@ LoadedModule::LoadedModule(const QString& versionsText, const QByteArray& script
     : channel(&link), versions(backend(versionsText)), parent(new QWidget), loader(PLUGIN_FILE)
 {
     failOnWarnings();
-    link.script(script);
+    for (const QByteArray& change : script.split(';'))
+        link.script(change);
     link.listen(channel);
     if (!loader.load())
         qFatal("%s", qPrintable(loader.errorString()));

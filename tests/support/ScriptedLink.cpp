@@ -9,17 +9,16 @@ ScriptedLink::ScriptedLink()
     QFile file(DATA_DIR "/standard-controller.txt");
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s", qPrintable(file.errorString()));
-    script(file.readAll().replace('\n', ';'));
+    while (!file.atEnd())
+        script(file.readLine().replace('\n', ""));
 }
 
-void ScriptedLink::script(const QByteArray& changes)
+void ScriptedLink::script(QByteArray change, int line)
 {
-    const QByteArrayList all = changes.split(';');
-    for (const QByteArray& change : all) {
-        const int separator = change.indexOf('=');
-        if (separator > 0)
-            answers.insert(change.left(separator), change.mid(separator + 1));
-    }
+    change.replace("maybe ", "");
+    const int separator = change.indexOf('=');
+    if (separator > 0)
+        answers.insert(change.left(separator), {change.mid(separator + 1), line});
 }
 
 void ScriptedLink::restart(const Answers& newAnswers, int first, int end)
@@ -51,12 +50,15 @@ bool ScriptedLink::execute(Operation operation, const QByteArray& command, QByte
     if (commands.size() >= firstFailing && commands.size() < endOfFailing)
         return false;
     const bool isSet = operation == Operation::Set;
-    *answer = answers.value(textOf(operation) + ' ' + command, answers.value(command, isSet ? "" : "!"));
+    const Answer otherwise = answers.value(command, {isSet ? "" : "!", 0});
+    const Answer found = answers.value(textOf(operation) + ' ' + command, otherwise);
+    askedLines.insert(found.line);
+    *answer = found.text;
     if (isSet && *answer != "!") {
         const int separator = command.lastIndexOf(' ');
         const auto name = answers.find(command.left(separator));
         if (name != answers.end())
-            *name = command.mid(separator + 1);
+            name->text = command.mid(separator + 1);
     }
     return *answer != "!";
 }

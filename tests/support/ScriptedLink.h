@@ -5,6 +5,7 @@
 
 #include <QByteArrayList>
 #include <QMap>
+#include <QSet>
 #include <QVector>
 
 #include <utility>
@@ -18,14 +19,19 @@ class ControllerChannel;
 class ScriptedLink : public ControllerLink
 {
 public:
+    struct Answer
+    {
+        QByteArray text;
+        int line; // of the session file that gave it; 0 for a standard answer
+    };
     /** By command, "!" for one that fails; a command behind its operation means that operation only. */
-    using Answers = QMap<QByteArray, QByteArray>;
+    using Answers = QMap<QByteArray, Answer>;
 
     /** Answers as tests/data/standard-controller.txt says. */
     ScriptedLink();
 
-    /** Changes answers: "command=answer" each, separated by semicolons. */
-    void script(const QByteArray& changes);
+    /** Changes an answer: "COMMAND=ANSWER", or "maybe COMMAND=ANSWER" for one that may stay unasked. */
+    void script(QByteArray change, int line = 0);
 
     /** Forgets what was asked and reported. Fails the commands from \a first to the one before \a end, from 0. */
     void restart(const Answers& newAnswers, int first = 0, int end = 0);
@@ -40,7 +46,8 @@ public:
 
     Answers answers;
     QByteArrayList commands;
-    QVector<int> failed; // positions in commands
+    QVector<int> failed;  // positions in commands
+    QSet<int> askedLines; // lines whose answers were asked for
     QByteArrayList reports;
 
 private:

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QByteArrayList>
+#include <QMap>
+#include <QMetaType>
+#include <QStringList>
+#include <QVector>
+
+/** A line of a case: its text, and its number in the file. */
+struct SessionLine
+{
+    QByteArray text;
+    int number;
+};
+using SessionLines = QVector<SessionLine>;
+
+/** A case of a session file: its lines by their key, in order. */
+struct Session
+{
+    QByteArrayList texts(const QByteArray& key) const;
+    /** The text of the one line with this key. */
+    QByteArray text(const QByteArray& key, const QByteArray& otherwise = QByteArray()) const;
+    /** "FILE:LINE: CASE: what", in the line \a number, or by default in that of the case. */
+    QString problem(const QString& what, int number = 0) const;
+
+    QByteArray file;
+    QByteArray name;
+    int number = 0;
+    QMap<QByteArray, SessionLines> lines;
+};
+Q_DECLARE_METATYPE(Session)
+
+/** Reads cases, and named lists of lines; tests/data/sessions.txt describes the format. */
+class SessionFile
+{
+public:
+    /** \a keys are those that a line of a case may begin with. */
+    SessionFile(const QString& path, const QByteArrayList& keys);
+
+    QVector<Session> sessions;
+    QMap<QByteArray, QByteArrayList> lists;
+    QStringList mistakes; // "FILE:LINE: what is wrong"
+
+private:
+    void readLine(const QByteArray& key, const QByteArray& value);
+    QByteArrayList expanded(const QByteArray& text);
+    QByteArrayList filled(const QByteArray& name, const QByteArrayList& arguments);
+    void mistake(const QString& what);
+
+    QByteArray file;
+    QByteArrayList keys;
+    QByteArray list;
+    int number = 0;
+};
+
+/** " is unknown; the nearest is ..." */
+QString unknown(const QByteArray& name, const QByteArrayList& known);
+
+/** One row for each case and protocol of a file of tests/data, for a test with the parameter "session". */
+void addSessions(const char* name, const QByteArrayList& keys);
