@@ -1,17 +1,11 @@
 #include "SessionRun.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLabel>
-#include <QMessageBox>
-#include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTableWidget>
 
 #include <climits>
 
-/** Whatever the controller answers and the host does: the dialog closes, reports honestly and leaves nothing behind. */
+/** Each command fails in turn: the dialog closes, reports each failure once, and works again at the next opening. */
 class TestFaults : public QObject
 {
     Q_OBJECT
@@ -19,7 +13,6 @@ class TestFaults : public QObject
 private slots:
     void survivesEachFailure_data();
     void survivesEachFailure();
-    void survivesGarbage();
 };
 
 namespace {
@@ -51,8 +44,8 @@ Run open(LoadedModule& module, const Session& session)
         run.opened = module.link.commands.size();
         run.shown = textOfDialog(module.dialog());
         const bool isOff = module.see("pushButton_Ok") == " off";
-        for (const QByteArray& action : isOff ? QByteArrayList() : session.texts("user"))
-            run.undone += act(module, action);
+        for (const SessionLine& line : isOff ? SessionLines() : session.lines.value("user"))
+            run.undone += act(module, line);
         run.left = module.link.commands.size();
         run.way = isOff ? "Cancel" : session.text("leave");
         module.user().leave(run.way);
@@ -105,7 +98,8 @@ void TestFaults::survivesEachFailure()
 {
     QFETCH(Session, session);
     const SessionFile table(DATA_DIR "/failures.txt", keys);
-    LoadedModule module(session.text("protocol"), session.texts("answer").join(';'));
+    LoadedModule module(session.text("protocol"));
+    module.link.script(session.lines.value("answer"));
     const ScriptedLink::Answers answers = module.link.answers;
     Session cancelled;
     cancelled.lines["leave"] = {{"Cancel", 0}};
@@ -129,115 +123,6 @@ void TestFaults::survivesEachFailure()
                 QFAIL(qPrintable("failing " + clean.commands.at(i) + (end == INT_MAX ? " and what follows" : "")));
         }
     }
-}
-
-namespace {
-
-/** Answers with whatever fits the module's buffers. */
-class GarbageLink : public ControllerLink
-{
-public:
-    explicit GarbageLink(quint32 seed) : random(seed) {}
-
-    bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
-
-    template <typename Value>
-    Value anyOf(const QVector<Value>& values)
-    {
-        return values.at(random.bounded(values.size()));
-    }
-
-    QRandomGenerator random;
-
-private:
-    QByteArray text();
-    QByteArray number();
-};
-
-QByteArray GarbageLink::text()
-{
-    QByteArray bytes(anyOf<int>({1, 15, 99, 199, random.bounded(200)}), '\0');
-    for (char& byte : bytes)
-        byte = static_cast<char>(random.bounded(1, 256));
-    return anyOf<QByteArray>({"yes", "yes", "yes", "no", "internal", "video", "a b c d none", "0x0301 7", "", " ",
-                              "direct settings", R"(x "a" b)", R"(""")", "%n%s%1%2%99", "<b><img src=x>", bytes,
-                              bytes});
-}
-
-QByteArray GarbageLink::number()
-{
-    if (random.bounded(100) > 0)
-        return anyOf<QByteArray>({"0", "1", "2", "3", "0.25", "60"});
-    return anyOf<QByteArray>({"-1", "999", "2147483647", "-2147483648", "99999999999", "nan", "inf", "-inf", "1e308",
-                              "-1e305", "1e-320", text()});
-}
-
-bool GarbageLink::execute(Operation operation, const QByteArray& command, QByteArray* answer)
-{
-    *answer = operation == Operation::Int || operation == Operation::Double ? number() : text();
-    if (command == "synccard available" && random.bounded(10) > 0)
-        *answer = "yes";
-    return random.bounded(200) > 0;
-}
-
-void checkWritten(const CommandRecord& record)
-{
-    static const QRegularExpression notWritten("nan|inf|[^ -~]");
-    if (record.operation == Operation::Set && !record.command.startsWith("synccard active_mode "))
-        QVERIFY(!notWritten.match(record.command).hasMatch());
-}
-
-/** One hasty thing a user may do next. */
-void actAtRandom(const LoadedModule& module, GarbageLink* garbage)
-{
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-        return box->accept();
-    if (!module.dialog()->isVisible())
-        return;
-    const auto name = garbage->anyOf<QByteArray>({"comboBox_modes", "comboBox_source", "comboBox_output"});
-    auto* selector = module.find<QComboBox>(name);
-    if (selector->isEnabled() && selector->count() > 0)
-        selector->setCurrentIndex(garbage->random.bounded(selector->count()));
-    module.find<QDoubleSpinBox>("doubleSpinBox_frequency")->stepUp();
-    QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
-    if (garbage->random.bounded(3) == 0)
-        QMetaObject::invokeMethod(module.dialog(), module.see("pushButton_Ok").isEmpty() ? "accept" : "reject");
-}
-
-} // namespace
-
-/** GARBAGE_OPENINGS and GARBAGE_SEED choose more openings and other garbage. */
-void TestFaults::survivesGarbage()
-{
-    const int openings = qMax(3000, qEnvironmentVariableIntValue("GARBAGE_OPENINGS"));
-    GarbageLink garbage(static_cast<quint32>(qEnvironmentVariableIntValue("GARBAGE_SEED")));
-    ControllerChannel channel(&garbage);
-    int written = 0;
-    connect(&channel, &ControllerChannel::executed, this, [&](const CommandRecord& record) {
-        written += record.operation == Operation::Set;
-        checkWritten(record);
-    });
-    connect(&channel, &ControllerChannel::reported, this,
-            [](const QString&, const QString&, int, const QString& message) {
-                QVERIFY(message.startsWith("Error: Unable to "));
-            });
-    LoadedModule module;
-    module.loader.module()->exit_module();
-    module.loader.setParameters(&channel, module.parent, &module.versions, false);
-    module.element = module.loader.module()->get_gui_elements().first();
-    QTimer hands;
-    connect(&hands, &QTimer::timeout, this, [&] { actAtRandom(module, &garbage); });
-    hands.start(0);
-    QMap<int, int> results;
-    for (int i = 0; i < openings && !QTest::currentTestFailed(); ++i) {
-        module.versions = backend(garbage.anyOf<QString>({"0.9", "1.4", "1.10 QUILLSTONE", "1.23", "1.23"}));
-        int result = -3;
-        QMetaObject::invokeMethod(module.dialog(), "update_and_exec", Q_RETURN_ARG(int, result));
-        ++results[result];
-        QVERIFY(!module.dialog()->isVisible() && module.find<QTableWidget>("tableWidget_channels")->rowCount() <= 999);
-    }
-    QCOMPARE(results.keys(), QList<int>({-1, QDialog::Rejected, QDialog::Accepted}));
-    QVERIFY2(written > openings / 2, qPrintable(QString::number(written)));
 }
 
 QTEST_MAIN(TestFaults)

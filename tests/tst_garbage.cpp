@@ -1,0 +1,164 @@
+#include "LoadedModule.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QMessageBox>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTableWidget>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/common_interface_defs.h>
+#endif
+
+/** Openings before a controller that answers garbage, with a user in a hurry. Each opening has a seed of its own. */
+class TestGarbage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void survives();
+};
+
+namespace {
+
+int seed = 0; // of the opening that runs
+
+void printSeed()
+{
+    fprintf(stderr, "to run this opening alone: ./dev fuzz 1 %d\n", seed);
+}
+
+/** Answers with whatever fits the module's buffers. */
+class GarbageLink : public ControllerLink
+{
+public:
+    bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
+
+    template <typename Value>
+    Value anyOf(const QVector<Value>& values)
+    {
+        return values.at(random.bounded(values.size()));
+    }
+
+    QRandomGenerator random;
+
+private:
+    QByteArray text();
+    QByteArray number();
+};
+
+QByteArray GarbageLink::text()
+{
+    QByteArray bytes(anyOf<int>({1, 15, 99, 199, random.bounded(200)}), '\0');
+    for (char& byte : bytes)
+        byte = static_cast<char>(random.bounded(1, 256));
+    return anyOf<QByteArray>({"yes", "yes", "yes", "no", "internal", "video", "a b c d none", "0x0301 7", "", " ",
+                              "direct settings", R"(x "a" b)", R"(""")", "%n%s%1%2%99", "<b><img src=x>", bytes,
+                              bytes});
+}
+
+QByteArray GarbageLink::number()
+{
+    if (random.bounded(100) > 0)
+        return anyOf<QByteArray>({"0", "1", "2", "3", "0.25", "60"});
+    return anyOf<QByteArray>({"-1", "999", "2147483647", "-2147483648", "99999999999", "nan", "inf", "-inf", "1e308",
+                              "-1e305", "1e-320", text()});
+}
+
+bool GarbageLink::execute(Operation operation, const QByteArray& command, QByteArray* answer)
+{
+    *answer = operation == Operation::Int || operation == Operation::Double ? number() : text();
+    if (command == "synccard available" && random.bounded(10) > 0)
+        *answer = "yes";
+    return random.bounded(200) > 0;
+}
+
+/** What reaches the controller is printable, and numbers are finite. */
+void checkWritten(const CommandRecord& record)
+{
+    static const QRegularExpression notWritten("nan|inf|[^ -~]");
+    if (record.operation == Operation::Set && !record.command.startsWith("synccard active_mode "))
+        QVERIFY(!notWritten.match(record.command).hasMatch());
+}
+
+/** One hasty thing a user may do next. */
+void actAtRandom(const LoadedModule& module, GarbageLink* garbage)
+{
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+        return box->accept();
+    if (!module.dialog()->isVisible())
+        return;
+    const auto name = garbage->anyOf<QByteArray>({"comboBox_modes", "comboBox_source", "comboBox_output"});
+    auto* selector = module.find<QComboBox>(name);
+    if (selector->isEnabled() && selector->count() > 0)
+        selector->setCurrentIndex(garbage->random.bounded(selector->count()));
+    module.find<QDoubleSpinBox>("doubleSpinBox_frequency")->stepUp();
+    QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
+    if (garbage->random.bounded(3) == 0)
+        QMetaObject::invokeMethod(module.dialog(), module.see("pushButton_Ok").isEmpty() ? "accept" : "reject");
+}
+
+/** An opening of a dialog that has just been built; half of these dialogs are opened a second time. */
+void openAtRandom(LoadedModule& module, GarbageLink* garbage, QMap<int, int>* results)
+{
+    garbage->random.seed(static_cast<quint32>(seed));
+    module.loader.module()->exit_module();
+    module.element = module.loader.module()->get_gui_elements().first();
+    for (int i = garbage->random.bounded(2); i < 2; ++i) {
+        module.versions = backend(garbage->anyOf<QString>({"0.9", "1.4", "1.10 QUILLSTONE", "1.23", "1.23"}));
+        int result = -3;
+        QMetaObject::invokeMethod(module.dialog(), "update_and_exec", Q_RETURN_ARG(int, result));
+        ++(*results)[result];
+        QVERIFY(!module.dialog()->isVisible());
+        QVERIFY(module.find<QTableWidget>("tableWidget_channels")->rowCount() <= 999);
+    }
+}
+
+} // namespace
+
+void TestGarbage::initTestCase()
+{
+#ifdef __SANITIZE_ADDRESS__
+    __sanitizer_set_death_callback(printSeed);
+#endif
+}
+
+/** FUZZ_OPENINGS and FUZZ_SEED, set by ./dev fuzz, ask for more openings and for other garbage. */
+void TestGarbage::survives()
+{
+    const int openings =
+        qEnvironmentVariableIsSet("FUZZ_OPENINGS") ? qEnvironmentVariableIntValue("FUZZ_OPENINGS") : 3000;
+    GarbageLink garbage;
+    ControllerChannel channel(&garbage);
+    int written = 0;
+    connect(&channel, &ControllerChannel::executed, this, [&](const CommandRecord& record) {
+        written += record.operation == Operation::Set;
+        checkWritten(record);
+    });
+    connect(&channel, &ControllerChannel::reported, this,
+            [](const QString&, const QString&, int, const QString& message) {
+                QVERIFY(message.startsWith("Error: Unable to "));
+            });
+    LoadedModule module;
+    module.loader.setParameters(&channel, module.parent, &module.versions, false);
+    QTimer hands;
+    connect(&hands, &QTimer::timeout, this, [&] { actAtRandom(module, &garbage); });
+    hands.start(0);
+    QMap<int, int> results;
+    seed = qEnvironmentVariableIntValue("FUZZ_SEED");
+    for (const int end = seed + openings; seed < end && !QTest::currentTestFailed(); ++seed)
+        openAtRandom(module, &garbage, &results);
+    --seed;
+    if (QTest::currentTestFailed())
+        return printSeed();
+    if (openings < 1000)
+        return;
+    QCOMPARE(results.keys(), QList<int>({-1, QDialog::Rejected, QDialog::Accepted}));
+    QVERIFY2(written > openings / 2, qPrintable(QString::number(written)));
+}
+
+QTEST_MAIN(TestGarbage)
+#include "tst_garbage.moc"
