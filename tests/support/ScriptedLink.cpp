@@ -21,6 +21,12 @@ void ScriptedLink::script(QByteArray change, int line)
         answers.insert(change.left(separator), {change.mid(separator + 1), line});
 }
 
+void ScriptedLink::script(const SessionLines& changes)
+{
+    for (const SessionLine& line : changes)
+        script(line.text, line.number);
+}
+
 void ScriptedLink::restart(const Answers& newAnswers, int first, int end)
 {
     answers = newAnswers;

@@ -2,9 +2,8 @@
 
 #include "CommandRecord.h"
 #include "ControllerLink.h"
+#include "SessionFile.h"
 
-#include <QByteArrayList>
-#include <QMap>
 #include <QSet>
 #include <QVector>
 
@@ -32,6 +31,7 @@ public:
 
     /** Changes an answer: "COMMAND=ANSWER", or "maybe COMMAND=ANSWER" for one that may stay unasked. */
     void script(QByteArray change, int line = 0);
+    void script(const SessionLines& changes);
 
     /** Forgets what was asked and reported. Fails the commands from \a first to the one before \a end, from 0. */
     void restart(const Answers& newAnswers, int first = 0, int end = 0);

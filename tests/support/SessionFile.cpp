@@ -6,49 +6,20 @@
 #include <QTest>
 
 #include <algorithm>
-#include <numeric>
-
-namespace {
-
-/** How many letters must change to make one word of the other. */
-int distance(const QByteArray& a, const QByteArray& b)
-{
-    QVector<int> row(b.size() + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (int i = 1; i <= a.size(); ++i) {
-        int diagonal = row[0]++;
-        for (int j = 1; j <= b.size(); ++j) {
-            const int changed = diagonal + (a.at(i - 1) == b.at(j - 1) ? 0 : 1);
-            diagonal = row.at(j);
-            row[j] = qMin(changed, qMin(row.at(j), row.at(j - 1)) + 1);
-        }
-    }
-    return row.last();
-}
-
-} // namespace
 
 QString unknown(const QByteArray& name, const QByteArrayList& known)
 {
-    const auto isNearer = [&](const QByteArray& a, const QByteArray& b) {
-        return distance(a, name) < distance(b, name);
+    const auto alike = [&](const QByteArray& other) {
+        return std::mismatch(name.begin(), name.end(), other.begin(), other.end()).first - name.begin();
     };
-    const auto nearest = std::min_element(known.begin(), known.end(), isNearer);
-    const QString hint = nearest == known.end() ? QString() : QString("; the nearest is \"%1\"").arg(QString(*nearest));
-    return QString("\"%1\" is unknown%2").arg(QString(name), hint);
-}
-
-QByteArrayList Session::texts(const QByteArray& key) const
-{
-    QByteArrayList all;
-    for (const SessionLine& line : lines.value(key))
-        all.append(line.text);
-    return all;
+    const auto isLess = [&](const QByteArray& a, const QByteArray& b) { return alike(a) < alike(b); };
+    const QByteArray nearest = *std::max_element(known.begin(), known.end(), isLess);
+    return QString("\"%1\" is unknown; the nearest is \"%2\"").arg(QString(name), QString(nearest));
 }
 
 QByteArray Session::text(const QByteArray& key, const QByteArray& otherwise) const
 {
-    return texts(key).value(0, otherwise);
+    return lines.value(key, {{otherwise, 0}}).first().text;
 }
 
 QString Session::problem(const QString& what, int line) const
@@ -56,43 +27,36 @@ QString Session::problem(const QString& what, int line) const
     return QString("%1:%2: %3: %4").arg(QString(file)).arg(line > 0 ? line : number).arg(QString(name), what);
 }
 
-SessionFile::SessionFile(const QString& path, const QByteArrayList& keys)
-    : file(QFileInfo(path).fileName().toUtf8()), keys(keys)
+SessionFile::SessionFile(const QString& path, const QByteArrayList& keys) : file(QFileInfo(path).fileName().toUtf8())
 {
     QFile input(path);
     if (!input.open(QIODevice::ReadOnly))
         qFatal("%s: %s", qPrintable(path), qPrintable(input.errorString()));
-    while (!input.atEnd()) {
-        const QByteArray line = input.readLine().replace('\n', "");
-        ++number;
+    for (number = 1; !input.atEnd(); ++number) {
+        const QByteArray line = input.readLine().replace('\n', "").replace("\\s", " ").replace("\\t", "\t");
         const int blank = (line + ' ').indexOf(' ');
         if (!line.isEmpty() && !line.startsWith('#'))
-            readLine(line.left(blank), line.mid(blank + 1));
+            readLine(line.left(blank), line.mid(blank + 1).replace("\\e", "\xE4"), keys);
     }
 }
 
-void SessionFile::readLine(const QByteArray& key, const QByteArray& value)
+void SessionFile::readLine(const QByteArray& key, const QByteArray& value, const QByteArrayList& keys)
 {
     const auto hasName = [&](const Session& session) { return session.name == value; };
-    if (value.isEmpty())
-        return mistake("a text is expected behind \"" + key + '"');
+    demand(!value.isEmpty(), "a text is expected behind \"" + key + '"');
     if (key == "list") {
         list = value;
     } else if (key == "+") {
         lists[list].append(value);
     } else if (key == "case") {
-        if (std::any_of(sessions.begin(), sessions.end(), hasName))
-            mistake("there is a case \"" + value + "\" already");
+        demand(std::none_of(sessions.begin(), sessions.end(), hasName), "there is a case \"" + value + "\" already");
         sessions.append({file, value, number, {}});
-    } else if (!keys.contains(key)) {
-        mistake("key " + unknown(key, keys + QByteArrayList{"case", "list"}));
-    } else if (sessions.isEmpty()) {
-        mistake("no case has begun");
     } else {
+        demand(keys.contains(key), "key " + unknown(key, keys + QByteArrayList{"case", "list"}));
+        demand(!sessions.isEmpty(), "no case has begun");
         const QByteArrayList texts = expanded(value);
-        for (QByteArray text : texts)
-            sessions.last().lines[key].append(
-                {text.replace("\\s", " ").replace("\\t", "\t").replace("\\e", "\xE4"), number});
+        for (int i = 0; i < texts.size() && !sessions.isEmpty(); ++i)
+            sessions.last().lines[key].append({texts.at(i), number});
     }
 }
 
@@ -102,46 +66,30 @@ QByteArrayList SessionFile::expanded(const QByteArray& text)
     static const QRegularExpression range(R"(\[(\d\d)-(\d\d)\])");
     const QRegularExpressionMatch match = range.match(text);
     QByteArrayList lines;
-    if (match.hasMatch()) {
-        for (int i = match.captured(1).toInt(); i <= match.captured(2).toInt(); ++i) {
-            QByteArray line = text;
-            lines += expanded(line.replace(match.captured().toUtf8(), QByteArray::number(100 + i).mid(1)));
-        }
-        return lines;
+    for (int i = match.captured(1).toInt(); i <= match.captured(2).toInt() && match.hasMatch(); ++i)
+        lines += expanded(QByteArray(text).replace(match.captured().toUtf8(), QByteArray::number(100 + i).mid(1)));
+    if (match.hasMatch() || !text.startsWith('@') || text == "@nothing")
+        return text == "@nothing" || match.hasMatch() ? lines : QByteArrayList{text};
+    const QByteArray name = text.mid(1, text.indexOf(": ") - 1);
+    const QByteArrayList arguments = text.mid(name.size() + 3).split('|');
+    demand(lists.contains(name), "list " + unknown(name, lists.keys()));
+    QByteArray all = lists.value(name).join('\n');
+    for (int i = 0; i < arguments.size() && text != '@' + name; ++i) {
+        const QByteArray parameter = '%' + QByteArray::number(i + 1);
+        demand(all.contains(parameter), "\"" + name + "\" does not use parameter " + parameter);
+        demand(!arguments.at(i).isEmpty(), "parameter " + parameter + " of \"" + name + "\" is empty");
+        all.replace(parameter, arguments.at(i));
     }
-    if (!text.startsWith('@'))
-        return {text};
-    const int colon = text.indexOf(": ");
-    const QByteArray name = text.mid(1, colon - 1);
-    for (const QByteArray& line : filled(name, colon < 0 ? QByteArrayList() : text.mid(colon + 2).split('|')))
+    demand(!QString(all).contains(QRegularExpression("%\\d")), "\"" + name + "\" needs more parameters");
+    for (const QByteArray& line : all.split('\n'))
         lines += expanded(line);
     return lines;
 }
 
-QByteArrayList SessionFile::filled(const QByteArray& name, const QByteArrayList& arguments)
+void SessionFile::demand(bool condition, const QString& otherwise)
 {
-    if (name == "nothing")
-        return {};
-    if (!lists.contains(name))
-        mistake("list " + unknown(name, lists.keys()));
-    QByteArrayList lines = lists.value(name);
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QByteArray parameter = '%' + QByteArray::number(i + 1);
-        if (arguments.at(i).isEmpty() || !lines.join().contains(parameter))
-            mistake(QString("parameter %1 of \"%2\" is %3")
-                        .arg(i + 1)
-                        .arg(QString(name), arguments.at(i).isEmpty() ? "empty" : "not used"));
-        for (QByteArray& line : lines)
-            line.replace(parameter, arguments.at(i));
-    }
-    if (QString(lines.join()).contains(QRegularExpression("%\\d")))
-        mistake("\"" + name + "\" needs more parameters");
-    return lines;
-}
-
-void SessionFile::mistake(const QString& what)
-{
-    mistakes.append(QString("%1:%2: %3").arg(QString(file)).arg(number).arg(what));
+    if (!condition)
+        mistakes.append(QString("%1:%2: %3").arg(QString(file)).arg(number).arg(otherwise));
 }
 
 void addSessions(const char* name, const QByteArrayList& keys)

@@ -17,11 +17,10 @@ using SessionLines = QVector<SessionLine>;
 /** A case of a session file: its lines by their key, in order. */
 struct Session
 {
-    QByteArrayList texts(const QByteArray& key) const;
     /** The text of the one line with this key. */
     QByteArray text(const QByteArray& key, const QByteArray& otherwise = QByteArray()) const;
-    /** "FILE:LINE: CASE: what", in the line \a number, or by default in that of the case. */
-    QString problem(const QString& what, int number = 0) const;
+    /** "FILE:LINE: CASE: what", in the line \a line, or by default in that of the case. */
+    QString problem(const QString& what, int line = 0) const;
 
     QByteArray file;
     QByteArray name;
@@ -42,18 +41,16 @@ public:
     QStringList mistakes; // "FILE:LINE: what is wrong"
 
 private:
-    void readLine(const QByteArray& key, const QByteArray& value);
+    void readLine(const QByteArray& key, const QByteArray& value, const QByteArrayList& keys);
     QByteArrayList expanded(const QByteArray& text);
-    QByteArrayList filled(const QByteArray& name, const QByteArrayList& arguments);
-    void mistake(const QString& what);
+    void demand(bool condition, const QString& otherwise);
 
     QByteArray file;
-    QByteArrayList keys;
     QByteArray list;
     int number = 0;
 };
 
-/** " is unknown; the nearest is ..." */
+/** "... is unknown; the nearest is ...": the one that begins most alike. */
 QString unknown(const QByteArray& name, const QByteArrayList& known);
 
 /** One row for each case and protocol of a file of tests/data, for a test with the parameter "session". */

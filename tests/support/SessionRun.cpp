@@ -6,110 +6,70 @@
 
 namespace {
 
-QByteArrayList widgetNames(const QDialog* dialog)
+QString unknownWidget(const LoadedModule& module, const QByteArray& name)
 {
     QByteArrayList names;
-    const QStringList lines = textOfDialog(dialog);
-    for (const QString& line : lines)
+    for (const QString& line : textOfDialog(module.dialog()))
         names.append(line.section(':', 0, 0).toUtf8());
-    return names;
+    return "widget " + unknown(name, names);
 }
 
-QString doneUnless(bool isDone, const QString& otherwise)
+bool actOnWidget(const LoadedModule& module, const QByteArrayList& words)
 {
-    return isDone ? QString() : otherwise;
-}
-
-QString actOnWidget(const LoadedModule& module, const QByteArrayList& words, const QByteArray& argument)
-{
-    auto* widget = module.find<QWidget>(words.value(1));
-    if (!widget)
-        return "widget " + unknown(words.value(1), widgetNames(module.dialog()));
-    if (!widget->isVisible() || !widget->isEnabled())
-        return words.at(1) + " is hidden or disabled";
+    auto* widget = module.find<QWidget>(words.at(1));
     auto* box = qobject_cast<QComboBox*>(widget);
+    const QByteArray argument = words.mid(2).join(' ');
+    if (!widget->isVisible() || !widget->isEnabled())
+        return false;
     if (words.at(0) == "choose")
-        return doneUnless(box && module.user().choose(words.at(1), argument), "there is no item \"" + argument + '"');
+        return module.user().choose(words.at(1), argument);
     if (words.at(0) == "key")
         QTest::keyClick(widget, Qt::Key(QKeySequence(QString(argument))[0]));
-    else if (box)
+    else
         box->setCurrentIndex(-1);
-    return {};
+    return true;
 }
 
-QString actOnCell(const LoadedModule& module, const QByteArrayList& words, const QByteArray& argument)
+bool actOnCell(const LoadedModule& module, const QByteArrayList& words)
 {
     auto* table = module.find<QTableWidget>("tableWidget_channels");
     const int row = words.value(1).toInt();
-    if (words.at(0) == "delay") {
-        QDoubleSpinBox* editor = module.user().editDelay(row);
-        DialogUser::type(editor, argument);
-        return doneUnless(editor, "there is no delay to edit in row " + words.value(1));
-    }
     const int column = words.value(2).toInt();
-    QTableWidgetItem* item = table->item(row, column);
+    QTableWidgetItem* item = table->item(row, words.at(0) == "delay" ? 1 : column);
     if (!item)
-        return "there is no cell " + words.value(1) + ' ' + words.value(2);
-    if (words.at(0) == "click")
+        return false;
+    if (words.at(0) == "delay")
+        DialogUser::type(module.user().editDelay(row), words.value(2));
+    else if (words.at(0) == "click")
         module.user().clickCell(row, column);
     else if (words.at(0) == "text")
         item->setText(words.value(3));
     else
         delete table->takeItem(row, column);
-    return {};
+    return true;
 }
 
 } // namespace
 
-QString act(LoadedModule& module, const QByteArray& action, int line)
+QString act(LoadedModule& module, const SessionLine& line)
 {
     static const QByteArrayList onWidgets = {"key", "choose", "deselect"};
     static const QByteArrayList onCells = {"click", "delay", "text", "take"};
-    const QByteArrayList words = action.split(' ');
-    const QByteArray argument = action.mid(words.at(0).size() + words.value(1).size() + 2);
+    const QByteArrayList words = line.text.split(' ');
+    const QString undone = '"' + line.text + "\" cannot be done";
+    if (onWidgets.contains(words.at(0)) && !module.find<QWidget>(words.value(1)))
+        return unknownWidget(module, words.value(1));
     if (onWidgets.contains(words.at(0)))
-        return actOnWidget(module, words, argument);
+        return actOnWidget(module, words) ? QString() : undone;
     if (onCells.contains(words.at(0)))
-        return actOnCell(module, words, argument);
+        return actOnCell(module, words) ? QString() : undone;
     if (words.at(0) == "answer")
-        module.link.script(action.mid(7), line);
-    else if (action == "poll")
-        QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
-    else
+        module.link.script(line.text.mid(7), line.number);
+    else if (line.text != "poll")
         return "action " + unknown(words.at(0), onWidgets + onCells + QByteArrayList{"answer", "poll"});
+    else
+        QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
     return {};
-}
-
-SessionRun::SessionRun(const Session& session, const QByteArray& way)
-    : session(session), way(way), module(session.text("protocol"))
-{
-    run();
-}
-
-void SessionRun::run()
-{
-    answer("answer");
-    const int result = module.open([this] {
-        compareOpening();
-        answer("later");
-        actAll("user");
-        compareWidgets("after");
-        leave();
-    });
-    demand((result == -1) == session.lines.contains("stops"),
-           "the dialog is " + QString(result < 0 ? "not " : "") + "shown");
-    if (result == -1)
-        return compareOpening();
-    demand(result == int(isOk ? QDialog::Accepted : QDialog::Rejected), QString("the result is %1").arg(result));
-    const QByteArray left = isOk ? "ok" : "cancel";
-    const auto both = [&](const QByteArray& suffix) {
-        return session.lines.value("sends" + suffix) + session.lines.value(left + suffix);
-    };
-    compareLines("commands after the opening", module.link.commands, both(""));
-    compareLines("reports after the opening", module.link.reports, both("-report"));
-    compareLines("boxes", module.boxes, session.lines.value(left + "-box"));
-    if (session.lines.contains("again") || session.lines.contains("again-protocol"))
-        openAgain();
 }
 
 QString SessionRun::problemOf(const Session& session)
@@ -117,37 +77,57 @@ QString SessionRun::problemOf(const Session& session)
     QSet<int> asked;
     for (const char* way : {"OK", "Cancel", "Escape", "close"}) {
         const SessionRun run(session, way);
-        if (!run.problem().isEmpty())
-            return run.problem();
-        asked += run.askedLines();
+        if (!run.problem.isEmpty())
+            return run.problem;
+        asked += run.module.link.askedLines;
     }
     for (const char* key : {"answer", "later", "again", "user", "again-user"}) {
         for (const SessionLine& line : session.lines.value(key)) {
-            const bool isAnswer = !QByteArray(key).endsWith("user") || line.text.startsWith("answer ");
-            if (isAnswer && !line.text.contains("maybe ") && !asked.contains(line.number))
+            const bool isAnswer = line.text.contains('=') && !line.text.contains("maybe ");
+            if (isAnswer && !asked.contains(line.number))
                 return session.problem("nothing asks for this answer: " + line.text, line.number);
         }
     }
     return {};
 }
 
-void SessionRun::leave()
+SessionRun::SessionRun(const Session& session, const QByteArray& way)
+    : session(session), way(way), module(session.text("protocol"))
 {
-    isOk = way == "OK" && module.see("pushButton_Ok") != " off";
-    module.user().leave(isOk || way != "OK" ? way : "Cancel");
+    module.link.script(session.lines.value("answer"));
+    const int result = module.open([&] {
+        compareOpening();
+        module.link.script(session.lines.value("later"));
+        actAll("user");
+        compareWidgets("after");
+        isOk = way == "OK" && module.see("pushButton_Ok") != " off";
+        module.user().leave(isOk || way != "OK" ? way : "Cancel");
+    });
+    if (result == -1)
+        compareOpening();
+    const int expected = session.lines.contains("stops") ? -1 : isOk ? QDialog::Accepted : QDialog::Rejected;
+    demand(result == expected, QString("update_and_exec() returns %1 instead of %2").arg(result).arg(expected));
+    const auto left = [&](const QByteArray& suffix) {
+        return session.lines.value("sends" + suffix) + session.lines.value((isOk ? "ok" : "cancel") + suffix);
+    };
+    compareLines("commands after the opening", module.link.commands, left(""));
+    compareLines("reports after the opening", module.link.reports, left("-report"));
+    compareLines("boxes", module.boxes, left("-box"));
+    if (session.lines.contains("again") || session.lines.contains("again-protocol"))
+        openAgain();
 }
 
 void SessionRun::openAgain()
 {
     module.versions = backend(session.text("again-protocol", session.text("protocol")));
-    answer("again");
-    const bool isShown = module.open([this] {
+    module.link.script(session.lines.value("again"));
+    const int result = module.open([this] {
         compareWidgets("again-shows");
         module.link.takeCommands();
         actAll("again-user");
         module.user().leave(session.text("again-leave", "OK"));
-    }) >= 0;
-    demand(isShown, "the second opening does not show the dialog");
+    });
+    demand(result >= 0, "the second opening does not show the dialog");
     compareLines("commands after the second opening", module.link.commands, session.lines.value("again-sends"));
 }
 
@@ -171,9 +151,9 @@ void SessionRun::compareWidgets(const QByteArray& key)
 {
     for (const SessionLine& line : session.lines.value(key)) {
         const QByteArray name = line.text.left(line.text.indexOf(':'));
-        if (!module.find<QWidget>(name))
-            return demand(false, "widget " + unknown(name, widgetNames(module.dialog())), line.number);
-        const QByteArray content = module.see(name);
+        const bool isKnown = module.find<QWidget>(name);
+        demand(isKnown, unknownWidget(module, name), line.number);
+        const QByteArray content = isKnown ? module.see(name) : QByteArray();
         const QByteArray found = name + ':' + (content.isEmpty() ? "" : " ") + content;
         demand(found == line.text, "expected " + line.text + "\n  found    " + found, line.number);
     }
@@ -185,33 +165,26 @@ void SessionRun::compareLines(const QString& what, const QByteArrayList& found, 
     int i = 0;
     while (i < found.size() && i < expected.size() && found.at(i) == expected.at(i).text)
         ++i;
-    if (i == found.size() && i == expected.size())
-        return;
-    const auto wanted = [&](int at) { return at < expected.size() ? QString(expected.at(at).text) : "(the end)"; };
-    const auto came = [&](int at) { return at < found.size() ? QString(found.at(at)) : "(the end)"; };
-    QStringList lines = {QString("leaving by %1, %2 differ at number %3:").arg(QString(way), what).arg(i + 1)};
-    if (i > 0)
-        lines.append("    " + came(i - 1));
-    lines += {"  - " + wanted(i), "  + " + came(i), "  next expected " + wanted(i + 1) + ", next found " + came(i + 1)};
-    demand(false, lines.join('\n'), i < expected.size() ? expected.at(i).number : 0);
-}
-
-void SessionRun::answer(const QByteArray& key)
-{
-    for (const SessionLine& line : session.lines.value(key))
-        module.link.script(line.text, line.number);
+    const SessionLine end = {"(the end)", 0};
+    const auto wanted = [&](int at) { return QString(expected.value(at, end).text); };
+    const auto came = [&](int at) { return QString(found.value(at, end.text)); };
+    const QString message = QString("leaving by %1, %2 differ at number %3:\n    %4\n  - %5\n  + %6\n    then %7 / %8");
+    demand(i == found.size() && i == expected.size(),
+           message.arg(QString(way), what, QString::number(i + 1), i > 0 ? came(i - 1) : "(the beginning)", wanted(i),
+                       came(i), wanted(i + 1), came(i + 1)),
+           expected.value(i, end).number);
 }
 
 void SessionRun::actAll(const QByteArray& key)
 {
     for (const SessionLine& line : session.lines.value(key)) {
-        const QString problem = act(module, line.text, line.number);
-        demand(problem.isEmpty(), "\"" + line.text + "\" cannot be done: " + problem, line.number);
+        const QString undone = act(module, line);
+        demand(undone.isEmpty(), undone, line.number);
     }
 }
 
 void SessionRun::demand(bool condition, const QString& otherwise, int line)
 {
-    if (!condition && firstProblem.isEmpty())
-        firstProblem = session.problem(otherwise, line);
+    if (!condition && problem.isEmpty())
+        problem = session.problem(otherwise, line);
 }
