@@ -49,7 +49,7 @@ QString HostOptions::controllerFolder()
 /** Lists name and description of each controller in the folder, unless one of the files is broken. */
 bool HostOptions::listControllers()
 {
-    const QFileInfoList files = QDir(controllerFolder()).entryInfoList({"*.json"}, QDir::Files | QDir::CaseSensitive);
+    const QFileInfoList files = QDir(controllerFolder()).entryInfoList({"*.json"}, QDir::Files, QDir::Name);
     int width = 0;
     for (const QFileInfo& file : files)
         width = qMax(width, file.completeBaseName().size());

@@ -24,9 +24,9 @@ public:
     void addOption(const QCommandLineOption& option) { parser.addOption(option); }
 
     /**
-     * Reads the program's arguments, before there is a QApplication: QApplication takes --plugin for
-     * itself and needs a display. Returns false when the program must end with ending(): after --help, --version or
-     * --list, and with status 2 after a mistake.
+     * Reads the program's arguments, before there is a QApplication: QApplication takes --plugin for itself and needs a
+     * display. Returns false when the program must end with ending(): after --help, --version or --list, and with
+     * status 2 after a mistake.
      */
     bool parse(int argc, char* argv[]);
     const Ending& ending() const { return itsEnding; }

@@ -7,10 +7,13 @@ rm -rf "$folder"
 mkdir -p "$folder"
 whole=$folder/whole.txt
 
-# Replays the recording FILE and expects STATUS and, on standard error, the MESSAGE.
+# Replays the recording FILE, or runs the tour with the options ARGUMENTS, and expects STATUS and, on standard error,
+# the MESSAGE.
 expect() {
     local file=$1 status=$2 message=$3 found=0
-    "$tour" --replay "$file" >/dev/null 2>"$folder/errors" || found=$?
+    shift 3
+    [ $# -gt 0 ] || set -- --replay "$file"
+    "$tour" "$@" >/dev/null 2>"$folder/errors" || found=$?
     [ "$found" = "$status" ] && { [ -z "$message" ] || grep -qF -- "$message" "$folder/errors"; } && return
     echo "recorded_tour: $file: expected status $status and \"$message\", found status $found and:" >&2
     cat "$folder/errors" >&2
@@ -19,6 +22,8 @@ expect() {
 
 "$tour" --record "$whole" >/dev/null
 expect "$whole" 0 ""
+expect "a delay that fails" 1 "expected cards 1, channels 1, delay: 1.234, found cards 1, channels 1, delay: 0" \
+    --fail 'output_delay d01 ch01 1'
 sed 's/d01 61\.000000/d01 62.000000/' "$whole" >"$folder/edited.txt"
 line=$(grep -n -m1 'd01 62\.000000' "$folder/edited.txt" | cut -d: -f1)
 expect "$folder/edited.txt" 1 "edited.txt:$line: expected \"set synccard internal_frequency d01 62.000000\", found"

@@ -81,7 +81,8 @@ void TestHost::opensControllers()
     const auto open = [&] { QMetaObject::invokeMethod(user.dialog(), "update_and_exec"); };
     const auto look = [&] {
         QByteArray line;
-        const bool isTaken = SimulatedController(wanted.state).execute(Operation::Send, "zorvan2 " + asked, &line);
+        const bool isTaken =
+            SimulatedController(host.controller().state()).execute(Operation::Send, "zorvan2 " + asked, &line);
         seen = asked.startsWith("set") ? (isTaken ? "ok" : "failed") : textOfWidget(user.find<QWidget>(asked));
         user.leave("Escape");
     };

@@ -1,3 +1,4 @@
+#include "ChoiceDelegate.h"
 #include "ControllerModel.h"
 #include "DevelopmentHost.h"
 #include "Files.h"
@@ -5,6 +6,7 @@
 #include "Workbench.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTabBar>
@@ -122,6 +124,15 @@ void TestWorkbench::editsTheController()
     QCOMPARE(edit("frequency", "75.5"), "frequency * 75.5 ");
     QCOMPARE(edit("divisor", "x"), "divisor 1 cards 1, divisor: a number from 1 to 100 is expected");
     QCOMPARE(host.controller().state().cards.first().frequency, 75.5);
+    const auto* delay = model.findItems("delay", Qt::MatchRecursive).constFirst();
+    QCOMPARE(delay->index().siblingAtColumn(ControllerModel::UnitColumn).data().toString(), "ms");
+    const auto* mode = model.findItems("activeMode", Qt::MatchRecursive).constFirst();
+    const std::unique_ptr<QWidget> editor(
+        ChoiceDelegate().createEditor(nullptr, {}, mode->index().siblingAtColumn(ControllerModel::ValueColumn)));
+    const auto* box = qobject_cast<QComboBox*>(editor.get());
+    QVERIFY(box);
+    QCOMPARE(textOfWidget(box), "*none=|cam100=|cam200=|genlock=|slave= hidden");
+    QVERIFY(!box->isEditable());
     model.markFromNow();
     QCOMPARE(edit("locked", false), "locked * false ");
     QCOMPARE(iconSizes(host), host.window().windowIcon().availableSizes());

@@ -34,8 +34,8 @@ void Tour::raiseFrequency()
         if (hasFailed())
             return;
         CardState& card = expected.cards.first();
-        roundAsShown(&card);
         card.frequency = qMin(card.frequency + 1.0, card.maxFrequency);
+        roundAsShown(&card);
         expected.activeMode = "none";
         user->leave("OK");
     });

@@ -15,27 +15,22 @@ QString flag(bool value)
     return value ? "yes" : "no";
 }
 
-QString number(double value)
-{
-    return QString::number(value, 'g', 12);
-}
-
 /** Visits a record and sets one of its fields to a value from a command, if the field's rule takes it. */
 struct FieldSetter
 {
     template <typename Value>
-    void operator()(const FieldRule& rule, Value& field)
+    void field(const FieldRule& rule, Value& target)
     {
         if (rule.key != key)
             return;
         const QJsonValue value = rule.form == FieldRule::Flag ? QJsonValue(text == "yes") : rule.parse(text);
         isTaken = rule.refusal(value).isEmpty() && (rule.form != FieldRule::Flag || text == "yes" || text == "no");
         if (isTaken)
-            field = value.toVariant().value<Value>();
+            target = value.toVariant().value<Value>();
     }
-    void operator()(const FieldRule& /*rule*/, VersionInfo& /*no command sets it*/) {}
+    void field(const FieldRule& /*rule*/, VersionInfo& /*no command sets it*/) {}
     template <typename... Arguments>
-    void operator()(const char* /*list*/, Arguments&&... /*unused*/)
+    void list(Arguments&&... /*no command sets a list*/)
     {}
 
     QString key;
@@ -100,8 +95,8 @@ const Parameter parameters[] = {
     {"synccard model_desc", "w", cards, [](const Access& a) { return description(a.state->cards, &CardState::model, a.words.first()); }, nullptr},
     {"synccard has_source", "dw", cards, [](const Access& a) { return flag(named(a)); }, nullptr},
     {"synccard source", "d", cards, [](const Access& a) { return a.card->source; }, setSource},
-    {"synccard max_internal_frequency", "d", frequencyLimit, [](const Access& a) { return number(a.card->maxFrequency); }, nullptr},
-    {"synccard internal_frequency", "d", cards, [](const Access& a) { return number(a.card->frequency); },
+    {"synccard max_internal_frequency", "d", frequencyLimit, [](const Access& a) { return QString::number(a.card->maxFrequency, 'g', 12); }, nullptr},
+    {"synccard internal_frequency", "d", cards, [](const Access& a) { return QString::number(a.card->frequency, 'g', 12); },
      [](Access& a, const QString& value) { return setField("frequency", value, *a.card, *a.state); }},
     {"synccard max_external_divisor", "dw", cards, [](const Access& a) { return named(a) ? QString::number(named(a)->maxDivisor) : QString(); }, nullptr},
     {"synccard external_divisor", "d", cards, [](const Access& a) { return QString::number(a.card->divisor); },
@@ -110,8 +105,8 @@ const Parameter parameters[] = {
     {"synccard output", "d", outputs, [](const Access& a) { return a.card->output; },
      [](Access& a, const QString& value) { return setField("output", value, *a.card, *a.state); }},
     {"synccard number_of_channels", "d", cards, [](const Access& a) { return QString::number(a.card->channels.size()); }, nullptr},
-    {"synccard max_output_delay", "d", cards, [](const Access& a) { return number(a.card->maxDelay); }, nullptr},
-    {"synccard output_delay", "dc", cards, [](const Access& a) { return number(a.channel->delay); },
+    {"synccard max_output_delay", "d", cards, [](const Access& a) { return QString::number(a.card->maxDelay, 'g', 12); }, nullptr},
+    {"synccard output_delay", "dc", cards, [](const Access& a) { return QString::number(a.channel->delay, 'g', 12); },
      [](Access& a, const QString& value) { return setField("delay", value, *a.channel, *a.card); }},
     {"synccard output_during_idle", "dc", cards, [](const Access& a) { return flag(a.channel->activeDuringIdle); },
      [](Access& a, const QString& value) { return setField("activeDuringIdle", value, *a.channel, *a.card); }},

@@ -7,7 +7,7 @@
 QJsonValue FieldRule::parse(const QString& entered) const
 {
     bool isNumber = false;
-    const double number = entered.toDouble(&isNumber);
+    const double number = form == WholeNumber ? entered.toInt(&isNumber) : entered.toDouble(&isNumber);
     if (form == Flag && (entered == "true" || entered == "false"))
         return entered == "true";
     return isNumber && form > Flag ? QJsonValue(number) : QJsonValue(entered);
@@ -35,7 +35,8 @@ QString FieldRule::refusal(const QJsonValue& value) const
     case Version:
         return unless(isVersion, "a version such as \"1.23.0\"");
     case Choice:
-        return unless(choices.contains(text), "one of " + choices.join(", "));
+        return choices.isEmpty() ? "there is nothing to choose from"
+                                 : unless(choices.contains(text), "one of " + choices.join(", "));
     case Flag:
         return unless(value.isBool(), "true or false");
     case WholeNumber:

@@ -14,7 +14,7 @@ struct Edit
 /** \a place with \a name, a key or an entry's number: "cards", "1" and "channels" make "cards 1, channels". */
 QString placeIn(const QString& place, const QString& name)
 {
-    return place.isEmpty() ? name : place + (name.at(0).isDigit() ? " " : ", ") + name;
+    return place.isEmpty() ? name : place + (name.left(1).toUInt() > 0 ? " " : ", ") + name;
 }
 
 /**
@@ -30,30 +30,30 @@ public:
         refuse(node->place, json.isObject() || json.isUndefined() ? QString() : "an object is expected");
     }
 
-    void operator()(const FieldRule& rule, QString& text) { text = next(rule, text).toString(); }
-    void operator()(const FieldRule& rule, bool& flag) { flag = next(rule, flag).toBool(); }
-    void operator()(const FieldRule& rule, double& number) { number = next(rule, number).toDouble(); }
-    void operator()(const FieldRule& rule, int& number) { number = next(rule, number).toInt(); }
-    void operator()(const FieldRule& rule, VersionInfo& version)
+    void field(const FieldRule& rule, QString& text) { text = next(rule, text).toString(); }
+    void field(const FieldRule& rule, bool& flag) { flag = next(rule, flag).toBool(); }
+    void field(const FieldRule& rule, double& number) { number = next(rule, number).toDouble(); }
+    void field(const FieldRule& rule, int& number) { number = next(rule, number).toInt(); }
+    void field(const FieldRule& rule, VersionInfo& version)
     {
         version.fromString(next(rule, version.toString()).toString());
     }
 
-    void operator()(const FieldRule& rule, QStringList& texts)
+    void field(const FieldRule& rule, QStringList& texts)
     {
-        visitList(rule.key, texts, [&](Exchange& list, const QString& number, QString& text) {
+        visitList(rule.key, texts, [&](Exchange& all, const QString& number, QString& text) {
             FieldRule entryRule = rule;
             entryRule.key = number;
-            list(entryRule, text);
+            all.field(entryRule, text);
         });
     }
 
     template <typename Entry, typename Owner>
-    void operator()(const QString& key, QVector<Entry>& entries, const Owner& owner, QString Entry::*identity = nullptr)
+    void list(const QString& key, QVector<Entry>& entries, const Owner& owner, QString Entry::*identity = nullptr)
     {
         QStringList identities;
-        visitList(key, entries, [&](Exchange& list, const QString& number, Entry& entry) {
-            Exchange record(list.object.take(number), edit, list.append(number, {}, QJsonValue::Undefined), error);
+        visitList(key, entries, [&](Exchange& all, const QString& number, Entry& entry) {
+            Exchange record(all.object.take(number), edit, all.append(number, {}, QJsonValue::Undefined), error);
             describe(record, entry, owner);
             record.refuseRest();
             if (identity && identities.contains(entry.*identity))
@@ -92,11 +92,11 @@ private:
     template <typename Entries, typename VisitEntry>
     void visitList(const QString& key, Entries& entries, VisitEntry visitEntry)
     {
-        StateNode* list = append(key, {}, QJsonValue::Undefined, true);
+        StateNode* listNode = append(key, {}, QJsonValue::Undefined, true);
         QJsonObject numbered;
         if (object.contains(key)) {
             const QJsonValue json = object.take(key);
-            refuse(list->place, json.isArray() ? QString() : "a list is expected");
+            refuse(listNode->place, json.isArray() ? QString() : "a list is expected");
             entries.clear();
             const QJsonArray array = json.toArray();
             for (const auto& entry : array) {
@@ -104,7 +104,7 @@ private:
                 numbered.insert(QString::number(entries.size()), entry);
             }
         }
-        Exchange visit(numbered, edit, list, error);
+        Exchange visit(numbered, edit, listNode, error);
         for (int i = 0; i < entries.size(); ++i)
             visitEntry(visit, QString::number(i + 1), entries[i]);
     }

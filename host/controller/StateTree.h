@@ -29,5 +29,5 @@ StateNode toTree(ControllerState state);
  */
 bool readState(const QJsonValue& json, ControllerState* state, QString* error);
 
-/** Changes the field at \a place to what somebody \a entered. False, with \a error and \a state as above. */
+/** Changes the field at \a place, which a tree names, to what somebody \a entered. Returns and refuses as above. */
 bool editField(const QString& place, const QString& entered, ControllerState* state, QString* error);

@@ -12,7 +12,9 @@ QWidget* ChoiceDelegate::createEditor(QWidget* parent, const QStyleOptionViewIte
         return QStyledItemDelegate::createEditor(parent, option, index);
     auto* box = new QComboBox(parent);
     box->addItems(choices);
-    box->setEditable(!index.data(ControllerModel::IsChoiceRole).toBool());
-    box->setCompleter(nullptr); // it would complete a typed text to one of the choices
+    if (!index.data(ControllerModel::IsChoiceRole).toBool()) {
+        box->setEditable(true);
+        box->setCompleter(nullptr); // it would complete a typed text to one of the choices
+    }
     return box;
 }

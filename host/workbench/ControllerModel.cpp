@@ -17,17 +17,16 @@ void showName(QStandardItem* item, const QString& name, bool isChanged)
 void showValue(QStandardItem* item, const StateNode& field)
 {
     item->setData(field.place, ControllerModel::PlaceRole);
-    item->setData(field.rule.form == FieldRule::Flag ? QStringList{"true", "false"} : field.rule.choices,
-                  ControllerModel::ChoicesRole);
-    item->setData(field.rule.form == FieldRule::Flag || field.rule.form == FieldRule::Choice,
-                  ControllerModel::IsChoiceRole);
+    const bool isFlag = field.rule.form == FieldRule::Flag;
+    item->setData(isFlag ? QStringList{"true", "false"} : field.rule.choices, ControllerModel::ChoicesRole);
+    item->setData(isFlag || field.rule.form == FieldRule::Choice, ControllerModel::IsChoiceRole);
     item->setText(field.value.toVariant().toString());
 }
 
 } // namespace
 
 ControllerModel::ControllerModel(const SimulatedController* controller, Apply apply)
-    : controller(controller), apply(std::move(apply)), marked(toTree(controller->state()))
+    : controller(controller), apply(std::move(apply)), marked(controller->state())
 {
     setHorizontalHeaderLabels({tr("Name"), tr("Value"), tr("Unit")});
     refresh();
@@ -41,14 +40,14 @@ ControllerModel::ControllerModel(const SimulatedController* controller, Apply ap
 
 void ControllerModel::markFromNow()
 {
-    marked = toTree(controller->state());
+    marked = controller->state();
     timer.start();
 }
 
 void ControllerModel::refresh()
 {
     isRefreshing = true;
-    show(invisibleRootItem(), toTree(controller->state()), marked);
+    show(invisibleRootItem(), toTree(controller->state()), toTree(marked));
     isRefreshing = false;
 }
 
@@ -65,7 +64,7 @@ void ControllerModel::show(QStandardItem* parent, const StateNode& node, const S
         for (int column = 0; column < columnCount(); ++column)
             parent->child(row, column)->setEditable(column == ValueColumn && child.isField());
         QStandardItem* name = parent->child(row, NameColumn);
-        showName(name, child.name, child.toJson() != childBefore.toJson());
+        showName(name, child.name, child.toLines() != childBefore.toLines());
         parent->child(row, UnitColumn)->setText(child.rule.unit);
         if (child.isField())
             showValue(parent->child(row, ValueColumn), child);

@@ -43,7 +43,7 @@ private:
 
     const SimulatedController* controller;
     Apply apply;
-    StateNode marked;
+    ControllerState marked;
     QTimer timer;
     bool isRefreshing = false;
 };

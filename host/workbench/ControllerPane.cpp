@@ -15,18 +15,15 @@ ControllerPane::ControllerPane(DevelopmentHost* host)
     setColumnWidth(ControllerModel::NameColumn, initialColumnWidth);
     setColumnWidth(ControllerModel::ValueColumn, initialColumnWidth);
     setEditTriggers(NoEditTriggers);
-    connect(this, &QTreeView::activated, this, &ControllerPane::editValue);
+    // A double click or Return anywhere in a row edits its value.
+    connect(this, &QTreeView::activated, this, [this](const QModelIndex& index) {
+        const QModelIndex value = index.siblingAtColumn(ControllerModel::ValueColumn);
+        if (value.flags() & Qt::ItemIsEditable)
+            edit(value);
+    });
     connect(&model, &ControllerModel::edited, this, &ControllerPane::said);
     connect(&host->channel(), &ControllerChannel::executed, this, [this](const CommandRecord& record) {
         if (traitsOf(record.text()).beginsOpening)
             model.markFromNow();
     });
-}
-
-/** Edits the value of the row in which somebody double-clicked or pressed Return. */
-void ControllerPane::editValue(const QModelIndex& index)
-{
-    const QModelIndex value = index.siblingAtColumn(ControllerModel::ValueColumn);
-    if (value.flags() & Qt::ItemIsEditable)
-        edit(value);
 }

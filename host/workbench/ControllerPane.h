@@ -19,7 +19,5 @@ signals:
     void said(const QString& text);
 
 private:
-    void editValue(const QModelIndex& index);
-
     ControllerModel model;
 };
