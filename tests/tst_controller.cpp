@@ -102,12 +102,15 @@ void TestController::documentsEveryField()
     QFile page(DATA_DIR "/../../docs/workbench.md");
     QVERIFY(page.open(QIODevice::ReadOnly));
     QStringList documented;
-    auto rows = QRegularExpression("^\\| `([^`]+)`", QRegularExpression::MultilineOption).globalMatch(page.readAll());
+    static const QRegularExpression row("^\\| `([^`]+)`", QRegularExpression::MultilineOption);
+    auto rows = row.globalMatch(page.readAll());
     while (rows.hasNext())
         documented.append(rows.next().captured(1));
     QStringList described;
-    for (const QString& line : toTree(otherState()).toLines())
-        described.append(line.section(':', 0, 0).remove(QRegularExpression(" \\d+")));
+    static const QRegularExpression number(" \\d+");
+    const QStringList lines = toTree(otherState()).toLines();
+    for (const QString& line : lines)
+        described.append(line.section(':', 0, 0).remove(number));
     QCOMPARE(documented, described);
 }
 

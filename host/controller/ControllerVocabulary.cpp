@@ -1,3 +1,4 @@
+// clazy:excludeall=non-pod-global-static
 #include "ControllerVocabulary.h"
 
 #include "StateDescription.h"

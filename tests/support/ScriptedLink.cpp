@@ -39,12 +39,12 @@ void ScriptedLink::restart(const Answers& newAnswers, int first, int end)
 
 void ScriptedLink::listen(const ControllerChannel& channel)
 {
-    QObject::connect(&channel, &ControllerChannel::executed, [this](const CommandRecord& record) {
+    QObject::connect(&channel, &ControllerChannel::executed, &channel, [this](const CommandRecord& record) {
         if (record.result != 0)
             failed.append(commands.size());
         commands.append(record.text());
     });
-    QObject::connect(&channel, &ControllerChannel::reported,
+    QObject::connect(&channel, &ControllerChannel::reported, &channel,
                      [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
                          const bool isConvention = category == "standard" && systemTag == "ZORVAN3" && flag == 1;
                          reports.append((isConvention ? "" : "wrong convention: ") + message.toLatin1());
