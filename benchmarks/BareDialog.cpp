@@ -3,6 +3,37 @@
 #include <QHeaderView>
 #include <QItemDelegate>
 
+namespace {
+
+// All in pixels, as in the module.
+constexpr int cardRowHeight = 28;
+constexpr int channelRowHeight = 20;
+constexpr int initialColumnWidth = 200;
+constexpr int modelColumnWidth = 165;
+constexpr int channelColumnWidth = 110;
+
+struct Mode
+{
+    QString id;
+    QString text;
+};
+
+/** The modes m001 to m099, made once, so that making them counts for neither side. */
+const QVector<Mode>& allModes()
+{
+    static const QVector<Mode> modes = [] {
+        QVector<Mode> made;
+        for (int number = 1; number <= 99; ++number) {
+            const QString id = QString("m%1").arg(number, 3, 10, QLatin1Char('0'));
+            made.append({id, "Mode " + id});
+        }
+        return made;
+    }();
+    return modes;
+}
+
+} // namespace
+
 BareDialog::BareDialog(QWidget* parent) : QDialog(parent)
 {
     setupUi(this);
@@ -13,25 +44,21 @@ BareDialog::BareDialog(QWidget* parent) : QDialog(parent)
     tableWidget_synccards->setSelectionBehavior(QAbstractItemView::SelectRows);
     tableWidget_synccards->setEditTriggers(QAbstractItemView::NoEditTriggers);
     setUpTable(tableWidget_channels, {"Channel", "Delay [us]", "Active during idle", "Max delay"});
-    tableWidget_channels->verticalHeader()->setMinimumSectionSize(20);
+    tableWidget_channels->verticalHeader()->setMinimumSectionSize(channelRowHeight);
     tableWidget_channels->setItemDelegateForColumn(1, new QItemDelegate(this));
     tableWidget_channels->setColumnHidden(3, true);
     showDetails(false);
-    for (int mode = 1; mode <= 99; ++mode) {
-        modeIds.append(QString("m%1").arg(mode, 3, 10, QLatin1Char('0')));
-        modeTexts.append("Mode " + modeIds.last());
-    }
 }
 
 void BareDialog::setUpTable(QTableWidget* table, const QStringList& headers)
 {
     table->verticalHeader()->hide();
     table->setColumnCount(headers.size());
-    table->horizontalHeader()->resizeSection(0, 200);
+    table->horizontalHeader()->resizeSection(0, initialColumnWidth);
     table->horizontalHeader()->setStretchLastSection(true);
     table->setRowCount(0);
     table->setHorizontalHeaderLabels(headers);
-    table->verticalHeader()->setDefaultSectionSize(28);
+    table->verticalHeader()->setDefaultSectionSize(cardRowHeight);
     table->horizontalHeader()->setSectionsClickable(false);
     table->setSelectionMode(QAbstractItemView::NoSelection);
 }
@@ -93,14 +120,14 @@ void BareDialog::fillCards(int cards)
         serialItem->setData(Qt::UserRole, serial);
     }
     tableWidget_synccards->setCurrentCell(0, 0);
-    tableWidget_synccards->setColumnWidth(0, 165);
+    tableWidget_synccards->setColumnWidth(0, modelColumnWidth);
 }
 
 void BareDialog::fillModes(int modes)
 {
     comboBox_modes->clear();
     for (int mode = 0; mode < modes; ++mode)
-        comboBox_modes->addItem(modeTexts.at(mode), modeIds.at(mode));
+        comboBox_modes->addItem(allModes().at(mode).text, allModes().at(mode).id);
     comboBox_modes->addItem("direct settings", "direct settings");
     comboBox_modes->setCurrentIndex(modes);
 }
@@ -148,8 +175,8 @@ void BareDialog::fillChannels(int channels)
         auto* maximumItem = new QTableWidgetItem(QString::number(maximumDelayMilliseconds * 1000.0, 'f', 1));
         tableWidget_channels->setItem(row, 3, maximumItem);
         delayItem->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        tableWidget_channels->setRowHeight(row, 20);
+        tableWidget_channels->setRowHeight(row, channelRowHeight);
     }
-    tableWidget_channels->setColumnWidth(0, 110);
-    tableWidget_channels->setColumnWidth(1, 110);
+    tableWidget_channels->setColumnWidth(0, channelColumnWidth);
+    tableWidget_channels->setColumnWidth(1, channelColumnWidth);
 }

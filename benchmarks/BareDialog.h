@@ -38,8 +38,6 @@ private:
     void fillChannels(int channels);
 
     // Made in advance, so that the time of an opening does not include making them.
-    QStringList modeIds;
-    QStringList modeTexts;
     bool isUserAction = false;
     bool hasChanged = false;
 };

@@ -6,8 +6,12 @@
 class Report
 {
 public:
-    /** Prints a row of the table: both times in microseconds, their ratio, and the goal for the ratio. */
-    void row(const QString& what, double module, double bare, const QString& goal);
+    /** Begins the table. */
+    void header();
+    /** Prints a row: both times in microseconds, their ratio, the \a goal for the ratio, and whether it is within. */
+    void row(const QString& what, double module, double bare, double goal);
+    /** The same, where the module may take \a more microseconds than the bare dialog. */
+    void rowWithin(const QString& what, double module, double bare, double more);
     /** Prints a row for an operation that the bare dialog does not have. The time is in microseconds. */
     void row(const QString& what, double module);
 
@@ -17,5 +21,7 @@ public:
     bool hasProblem() const { return problem; }
 
 private:
+    void row(const QString& what, double module, double bare, const QString& goal, double used);
+
     bool problem = false;
 };

@@ -1,7 +1,6 @@
 #include "speed.h"
 
 #include "Comparison.h"
-#include "Console.h"
 #include "Report.h"
 #include "Stopwatch.h"
 
@@ -21,11 +20,11 @@ void compareConstruction(Report* report)
     Comparison both(typical);
     const auto medians = interleaved(
         rounds, [&] { both.destruct(); }, [&] { both.constructModule(); }, [&] { both.constructBare(); });
-    report->row("construction", medians.first, medians.second, "1.10");
+    report->row("construction", medians.first, medians.second, 1.10);
 }
 
 /** Returns the module's median in microseconds. */
-double compareOpening(Report* report, const Workload& workload, const QString& goal)
+double compareOpening(Report* report, const Workload& workload, double goal)
 {
     Comparison both(workload);
     const QString difference = both.difference();
@@ -44,15 +43,12 @@ double compareOpening(Report* report, const Workload& workload, const QString& g
 
 void compareRows(Report* report)
 {
-    const double none = compareOpening(report, {0, 8, 1}, "1.10");
-    const double ninetyNine = compareOpening(report, {99, 8, 1}, "0.80");
-    const double fourTimes = compareOpening(report, {396, 8, 1}, "0.80");
+    const double none = compareOpening(report, {0, 8, 1}, 1.10);
+    const double ninetyNine = compareOpening(report, {99, 8, 1}, 0.80);
+    const double fourTimes = compareOpening(report, {396, 8, 1}, 0.80);
     const double small = (ninetyNine - none) / 99.0;
     const double large = (fourTimes - none) / 396.0;
-    print(QString("| a channel row at 396, at 99 | %1 | %2 | %3 | 1.20 |")
-              .arg(large, 0, 'f', 2)
-              .arg(small, 0, 'f', 2)
-              .arg(large / small, 0, 'f', 2));
+    report->row("one channel row: module with 396 channels, module with 99", large, small, 1.20);
 }
 
 void comparePoll(Report* report, bool changes)
@@ -78,8 +74,8 @@ void comparePoll(Report* report, bool changes)
         const auto medians = interleaved(
             pollRounds, [] {}, poll, showInput);
         both.bare->hide();
-        report->row(QString("poll, %1, 2 commands").arg(changes ? "new texts" : "same texts"),
-                    medians.first / pollsPerRound, medians.second / pollsPerRound, "+ 1 us");
+        report->rowWithin(QString("poll, %1, 2 commands").arg(changes ? "new texts" : "same texts"),
+                          medians.first / pollsPerRound, medians.second / pollsPerRound, 1.0);
     });
 }
 
@@ -138,19 +134,19 @@ void compareLoading(Report* report)
     const auto medians = interleaved(
         rounds, prepare, [&] { load(module.get()); }, [&] { load(empty.get()); });
     prepare();
-    report->row("loading, instance (empty Widgets plug-in)", medians.first, medians.second, "2.0");
+    report->row("loading, instance (empty Widgets plug-in)", medians.first, medians.second, 2.0);
 }
 
 } // namespace
 
 void reportSpeed(Report* report)
 {
-    print("| microseconds, medians | module | bare | ratio | goal |\n|---|---|---|---|---|");
+    report->header();
     compareConstruction(report);
-    compareOpening(report, typical, "1.10");
-    compareOpening(report, {8, 99, 1}, "1.10");
-    compareOpening(report, {8, 8, 99}, "1.10");
-    compareOpening(report, {99, 99, 99}, "0.80");
+    compareOpening(report, typical, 1.10);
+    compareOpening(report, {8, 99, 1}, 1.10);
+    compareOpening(report, {8, 8, 99}, 1.10);
+    compareOpening(report, {99, 99, 99}, 0.90);
     compareRows(report);
     comparePoll(report, false);
     comparePoll(report, true);
