@@ -84,9 +84,7 @@ QDoubleSpinBox* DialogUser::editDelay(int row) const
 {
     const auto* table = find<QTableWidget>("tableWidget_channels");
     const auto editor = [table] { return table->viewport()->findChild<QDoubleSpinBox*>(); };
-    if (!QTest::qWaitFor([editor] { return !editor(); }))
-        return nullptr;
-    if (!table->item(row, 1))
+    if (!QTest::qWaitFor([editor] { return !editor(); }) || !table->item(row, 1))
         return nullptr;
     clickCell(row, 1);
     const QPoint cell = table->visualItemRect(table->item(row, 1)).center();

@@ -31,8 +31,7 @@ MainWindow::MainWindow()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    const bool isFree = !QApplication::activeModalWidget();
-    event->setAccepted(isFree);
-    if (isFree)
+    event->setAccepted(!QApplication::activeModalWidget());
+    if (event->isAccepted())
         QApplication::quit();
 }

@@ -54,12 +54,14 @@ void TestController::movesWithTheSource()
         QByteArray answer;
         return controller.execute(Operation::Set, "synccard " + QByteArray(command), &answer);
     };
-    QVERIFY(set("external_divisor d01 40") && set("output d01 ttlinv") && set("source d01 video"));
-    QVERIFY(set("output_delay d02 ch04 1.5") && set("output_during_idle d02 ch04 yes"));
+    for (const char* command : {"external_divisor d01 40", "output d01 ttlinv", "source d01 video",
+                                "output_delay d02 ch04 1.5", "output_during_idle d02 ch04 yes"})
+        QVERIFY2(set(command), command);
     const CardState& card = controller.state().cards.at(0);
     QCOMPARE(QString("%1 %2 %3").arg(card.source).arg(card.divisor).arg(card.output), "video 10 none");
     const ChannelState& channel = controller.state().cards.at(1).channels.at(3);
-    QVERIFY(channel.delay == 1.5 && channel.activeDuringIdle);
+    QCOMPARE(channel.delay, 1.5);
+    QVERIFY(channel.activeDuringIdle);
 }
 
 /** A state in which each field of each record differs from its default. */
@@ -86,7 +88,8 @@ void TestController::describesEveryField()
     plain.cards[0].sources = {{{}, SourceState().maxDivisor, {"none"}}};
     plain.cards[0].channels = {{}};
     const QStringList defaults = toTree(plain).toLines();
-    for (const QString& line : toTree(read).toLines())
+    const QStringList lines = toTree(read).toLines();
+    for (const QString& line : lines)
         QVERIFY2(!defaults.contains(line), qPrintable(line));
     [[maybe_unused]] const auto& [s1, s2, s3, s4, s5, s6, modes, s8, cards, s10] = read;
     [[maybe_unused]] const auto& [m1, m2] = modes.first();

@@ -17,7 +17,10 @@ private slots:
 
 namespace {
 
-const QByteArrayList keys = {"protocol", "answer", "user", "leave"};
+QByteArrayList keys()
+{
+    return {"protocol", "answer", "user", "leave"};
+}
 
 /** One opening: the commands before "opened" filled the dialog, those from "left" on were sent on leaving it. */
 struct Run
@@ -91,13 +94,13 @@ void compareRun(const LoadedModule& module, const SessionFile& table, const Run&
 
 void TestFaults::survivesEachFailure_data()
 {
-    addSessions("failures.txt", keys);
+    addSessions("failures.txt", keys());
 }
 
 void TestFaults::survivesEachFailure()
 {
     QFETCH(Session, session);
-    const SessionFile table(DATA_DIR "/failures.txt", keys);
+    const SessionFile table(DATA_DIR "/failures.txt", keys());
     LoadedModule module(session.text("protocol"));
     module.link.script(session.lines.value("answer"));
     const ScriptedLink::Answers answers = module.link.answers;

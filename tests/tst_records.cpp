@@ -14,15 +14,19 @@ private slots:
 void TestRecords::keepsRecords()
 {
     SynccardList list;
-    QVERIFY(!list.getSynccard(0) && !list.hasSynccard(0));
+    QVERIFY(!list.getSynccard(0));
+    QVERIFY(!list.hasSynccard(0));
     auto* first = new Synccard(0);
     list.add(first);
     list.add(new Synccard(0));
     QCOMPARE(list.getSynccard(0), first);
-    QVERIFY(first->id() == 0 && first->activeMode().isEmpty() && first->activeSource().isEmpty()
-            && first->frequency() == 60.0 && first->externalDivisor() == 1 && first->channelsCount() == 0);
+    const QString defaults = QString("%1 %2/%3/%4 %5").arg(first->id()).arg(first->activeMode(), first->activeSource());
+    QCOMPARE(defaults.arg(first->frequency()).arg(first->externalDivisor()), "0 //60 1");
+    QCOMPARE(first->channelsCount(), 0);
     first->addChannel(new Channel);
-    QVERIFY(first->channel(0) && !first->channel(1) && !first->channel(-1));
+    QVERIFY(first->channel(0));
+    for (const int outside : {-1, 1})
+        QVERIFY(!first->channel(outside));
     list.clear();
     QCOMPARE(list.size(), 0);
 }

@@ -14,7 +14,7 @@ struct Edit
 /** \a place with \a name, a key or an entry's number: "cards", "1" and "channels" make "cards 1, channels". */
 QString placeIn(const QString& place, const QString& name)
 {
-    return place.isEmpty() ? name : place + (name.left(1).toUInt() > 0 ? " " : ", ") + name;
+    return place.isEmpty() ? name : place + (name.toUInt() > 0 ? " " : ", ") + name;
 }
 
 /**

@@ -31,7 +31,8 @@ LoadedModule::LoadedModule(const QString& versionsText, const QByteArray& script
     : channel(&link), versions(backend(versionsText)), parent(new QWidget), loader(PLUGIN_FILE)
 {
     failOnWarnings();
-    for (const QByteArray& change : script.split(';'))
+    const QByteArrayList changes = script.split(';');
+    for (const QByteArray& change : changes)
         link.script(change);
     link.listen(channel);
     if (!loader.load())

@@ -80,8 +80,10 @@ QByteArrayList SessionFile::expanded(const QByteArray& text)
         demand(!arguments.at(i).isEmpty(), "parameter " + parameter + " of \"" + name + "\" is empty");
         all.replace(parameter, arguments.at(i));
     }
-    demand(!QString(all).contains(QRegularExpression("%\\d")), "\"" + name + "\" needs more parameters");
-    for (const QByteArray& line : all.split('\n'))
+    static const QRegularExpression unfilled("%\\d");
+    demand(!QString(all).contains(unfilled), "\"" + name + "\" needs more parameters");
+    const QByteArrayList filled = all.split('\n');
+    for (const QByteArray& line : filled)
         lines += expanded(line);
     return lines;
 }
@@ -97,8 +99,10 @@ void addSessions(const char* name, const QByteArrayList& keys)
     QTest::addColumn<Session>("session");
     const SessionFile file(QString(DATA_DIR "/") + name, keys);
     QVERIFY2(file.mistakes.isEmpty(), qPrintable(file.mistakes.join('\n')));
-    for (Session session : file.sessions) {
-        for (const SessionLine& protocol : session.lines.value("protocol", {{"1.23", 0}})) {
+    for (const Session& all : file.sessions) {
+        Session session = all;
+        const SessionLines protocols = all.lines.value("protocol", {{"1.23", 0}});
+        for (const SessionLine& protocol : protocols) {
             session.lines["protocol"] = {protocol};
             QTest::newRow(session.name + ", " + protocol.text) << session;
         }

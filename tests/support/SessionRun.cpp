@@ -9,7 +9,8 @@ namespace {
 QString unknownWidget(const LoadedModule& module, const QByteArray& name)
 {
     QByteArrayList names;
-    for (const QString& line : textOfDialog(module.dialog()))
+    const QStringList lines = textOfDialog(module.dialog());
+    for (const QString& line : lines)
         names.append(line.section(':', 0, 0).toUtf8());
     return "widget " + unknown(name, names);
 }
