@@ -42,6 +42,8 @@ class GarbageLink : public ControllerLink
 public:
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
+    void runEventLoop();
+
     template <typename Value>
     Value anyOf(const QVector<Value>& values)
     {
@@ -49,6 +51,7 @@ public:
     }
 
     QRandomGenerator random;
+    bool isAsked = false; // a command or a report is under way
 
 private:
     QByteArray text();
@@ -73,8 +76,19 @@ QByteArray GarbageLink::number()
                               "-1e305", "1e-320", text()});
 }
 
+/** What a channel may do while it waits for an answer, and a host while it reports. */
+void GarbageLink::runEventLoop()
+{
+    QVERIFY(!isAsked);
+    isAsked = true;
+    if (random.bounded(4) == 0)
+        QCoreApplication::processEvents();
+    isAsked = false;
+}
+
 bool GarbageLink::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
+    runEventLoop();
     *answer = operation == Operation::Int || operation == Operation::Double ? number() : text();
     if (command == "synccard available" && random.bounded(10) > 0)
         *answer = "yes";
@@ -94,6 +108,11 @@ void actAtRandom(const LoadedModule& module, GarbageLink* garbage)
 {
     if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
         return box->accept();
+    if (garbage->isAsked && garbage->random.bounded(4) == 0) {
+        int result = 0;
+        QMetaObject::invokeMethod(module.dialog(), "update_and_exec", Q_RETURN_ARG(int, result));
+        QCOMPARE(result, -1);
+    }
     if (!module.dialog()->isVisible())
         return;
     const auto name = garbage->anyOf<QByteArray>({"comboBox_modes", "comboBox_source", "comboBox_output"});
@@ -102,6 +121,8 @@ void actAtRandom(const LoadedModule& module, GarbageLink* garbage)
         selector->setCurrentIndex(garbage->random.bounded(selector->count()));
     module.find<QDoubleSpinBox>("doubleSpinBox_frequency")->stepUp();
     QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
+    if (garbage->random.bounded(50) == 0)
+        return module.dialog()->done(QDialog::Rejected); // as a host may end it
     if (garbage->random.bounded(3) == 0)
         QMetaObject::invokeMethod(module.dialog(), module.see("pushButton_Ok").isEmpty() ? "accept" : "reject");
 }
@@ -139,8 +160,9 @@ void TestGarbage::survives()
         checkWritten(record);
     });
     connect(&channel, &ControllerChannel::reported, this,
-            [](const QString&, const QString&, int, const QString& message) {
+            [&](const QString&, const QString&, int, const QString& message) {
                 QVERIFY(message.startsWith("Error: Unable to "));
+                garbage.runEventLoop();
             });
     LoadedModule module;
     module.loader.setParameters(&channel, module.parent, &module.versions, false);

@@ -3,6 +3,14 @@
 
 #include <QTemporaryDir>
 
+static QByteArrayList keys()
+{
+    return {"protocol",    "answer",        "asks",   "unasked", "shows",      "report",      "stops",
+            "later",       "user",          "after",  "sends",   "ok",         "cancel",      "sends-report",
+            "ok-report",   "cancel-report", "ok-box", "again",   "again-user", "again-shows", "again-protocol",
+            "again-leave", "again-sends",   "during", "leaves"};
+}
+
 /** Whole sessions with the dialog, described in data/sessions.txt. */
 class TestSessions : public QObject
 {
@@ -11,17 +19,11 @@ class TestSessions : public QObject
 private slots:
     void runs_data();
     void runs();
+    void survivesEventLoops_data() { addSessions("event-loops.txt", keys()); }
+    void survivesEventLoops() { runs(); }
     void findsMistakes_data();
     void findsMistakes();
 };
-
-static QByteArrayList keys()
-{
-    return {"protocol",   "answer",       "asks",           "unasked",       "shows",      "report",
-            "stops",      "later",        "user",           "after",         "sends",      "ok",
-            "cancel",     "sends-report", "ok-report",      "cancel-report", "ok-box",     "again",
-            "again-user", "again-shows",  "again-protocol", "again-leave",   "again-sends"};
-}
 
 void TestSessions::runs_data()
 {

@@ -16,6 +16,10 @@
  * They return 0 on success and any other number on failure; after a failure the caller uses neither answer nor result.
  * A parameter command is a name with its qualifiers ("synccard source d01"); the channel adds the get or set framing.
  *
+ * Any operation may run an event loop, to wait for the answer or to show a box: a module begins nothing that sends
+ * commands then. The host must not end the module or delete its parent widget inside an operation, because the code
+ * that called it might be unloaded before the operation returns.
+ *
  * Answer buffers belong to the caller and carry no size. The channel writes a terminated Latin-1 text of at most
  * 200 characters, the terminator included. The limit is 16 for getParameter() of "synccard has_input_frequency" and
  * 100 for "synccard output d01". A longer answer is a failure.
@@ -45,8 +49,7 @@ public:
 
     /**
      * Hands an error message to the host. \a message is a finished Latin-1 text, not a format. The host decides what
-     * \a category, \a systemTag (the system that reports) and the display flag \a flag mean. The host must not run an
-     * event loop here, as a message box does, because the next poll would start inside it; nor may it end the module.
+     * \a category, \a systemTag (the system that reports) and the display flag \a flag mean.
      */
     virtual void reportError(const char* category, const char* systemTag, int flag, const char* message) = 0;
 };

@@ -5,6 +5,7 @@
 #include "answers.h"
 #include "reporterror.h"
 
+#include <QPointer>
 #include <QTimer>
 
 namespace {
@@ -27,6 +28,7 @@ SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
     connect(timer, &QTimer::timeout, this, &SynccardDialog::poll_input_frequency);
     // A host may also end the dialog with done(), which calls neither accept() nor reject().
     connect(this, &QDialog::finished, timer, &QTimer::stop);
+    connect(this, &QDialog::finished, this, &SynccardDialog::noteClosed);
     setup_tableWidget_synccards();
     setup_tableWidget_channels();
     showDetails(false);
@@ -39,7 +41,7 @@ SynccardDialog::~SynccardDialog()
 
 int SynccardDialog::update_and_exec()
 {
-    if (isVisible())
+    if (!beginOpening())
         return -1;
     m_is_config_locked = is_config_locked();
     if (m_is_config_locked)
@@ -52,7 +54,12 @@ int SynccardDialog::update_and_exec()
     bSomethingChanged = false;
     disableDialog(false);
     show_frame_syncinput_if_necessary();
-    return isProtocolAtLeast(0, 13) ? update_and_exec_prot_version_0_13() : update_and_exec_prot_version_0_8();
+    const QPointer<SynccardDialog> self(this);
+    const int result =
+        isProtocolAtLeast(0, 13) ? update_and_exec_prot_version_0_13() : update_and_exec_prot_version_0_8();
+    if (self && step == Opening) // a failed read stopped it
+        step = NoStep;
+    return result;
 }
 
 int SynccardDialog::update_and_exec_prot_version_0_13()
@@ -73,7 +80,7 @@ int SynccardDialog::update_and_exec_prot_version_0_13()
 int SynccardDialog::exec_without_synccard()
 {
     disableDialog(true);
-    return exec();
+    return run();
 }
 
 /** Both protocol paths end here. No code may follow exec(): its parent may have deleted the dialog by then. */
@@ -81,7 +88,7 @@ int SynccardDialog::exec_with_poll()
 {
     timer->start();
     updateWidthContols();
-    return exec();
+    return run();
 }
 
 bool SynccardDialog::isSynccardAvailable()

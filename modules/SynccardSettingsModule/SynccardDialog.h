@@ -98,6 +98,7 @@ private:
 
     // Sync input: SynccardDialog_syncinput.cpp
     void show_frame_syncinput_if_necessary();
+    void update_input_frequency();
 
     // Applying: SynccardDialog_apply.cpp
     void storeActualDirectSettingsToSynccardList();
@@ -106,7 +107,7 @@ private:
     int saveFrequencyOrDivisor(const Synccard& card);
     void saveChannels(const Synccard& card);
     int setSourceToHub(const QString& source);
-    bool setSyncOutputToHub();
+    bool setSyncOutputToHub(const QByteArray& source, const QByteArray& output);
 
     // Leaving: SynccardDialog_leave.cpp
     void storePreviousSettings();
@@ -115,6 +116,23 @@ private:
     bool warnOfFailedChange();
     void restorePreviousSettings();
     bool restoreSource(const QString& source);
+
+    // One step at a time: SynccardDialog_steps.cpp
+    enum Step {
+        NoStep,
+        Opening, // reads, up to its exec()
+        Working, // a poll, a new source, or an exit
+        Waiting, // what waits is about to be carried out
+    };
+    bool beginOpening();
+    bool beginStep();
+    void endStep();
+    bool beginExit(DialogCode exit);
+    void endExit(DialogCode exit);
+    void carryOutWaiting();
+    void noteClosed();
+    void forgetWaiting();
+    int run();
 
     QTimer* timer = nullptr;
     IOManager* cm = nullptr;
@@ -128,4 +146,10 @@ private:
     SynccardList previousSettings;
     bool m_is_config_locked = false;
     QIcon m_icon_lock;
+    Step step = NoStep;
+    bool bSourceWaits = false;
+    bool bExitWaits = false;
+    DialogCode waitingExit = Rejected;
+    bool bClosed = false;    // since the exit under way began
+    bool bExecuting = false; // exec() has not returned yet
 };

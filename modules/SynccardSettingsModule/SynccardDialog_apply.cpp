@@ -141,12 +141,10 @@ int SynccardDialog::setSourceToHub(const QString& source)
  * Writes the chosen output if the controller offers it and does not use it yet. Returns true when the controller uses
  * the chosen output at the end.
  */
-bool SynccardDialog::setSyncOutputToHub()
+bool SynccardDialog::setSyncOutputToHub(const QByteArray& source, const QByteArray& output)
 {
     if (!isProtocolAtLeast(1, 23))
         return false;
-    const QByteArray source = comboBox_source->currentData().toString().toLatin1();
-    const QByteArray output = comboBox_output->currentData().toString().toLatin1();
     if (source.isEmpty() || output.isEmpty())
         return false;
     bool isOffered = false;

@@ -82,6 +82,8 @@ void SynccardDialog::setup_tableWidget_channels()
     tableWidget_channels->verticalHeader()->setMinimumSectionSize(rowHeight);
     tableWidget_channels->horizontalHeader()->setSectionsClickable(false);
     tableWidget_channels->setSelectionMode(QAbstractItemView::NoSelection);
+    tableWidget_channels->setTabKeyNavigation(false); // Tab goes on to the next control
+    tableWidget_channels->setAccessibleName(tableWidget_channels->whatsThis());
     tableWidget_channels->setItemDelegateForColumn(DelayColumn, &doubleSpinboxDelegate);
     tableWidget_channels->setColumnHidden(MaximumDelayColumn, true);
 }

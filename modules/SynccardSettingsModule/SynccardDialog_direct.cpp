@@ -41,6 +41,8 @@ void SynccardDialog::setup_tableWidget_synccards()
     tableWidget_synccards->verticalHeader()->setDefaultSectionSize(rowHeight);
     tableWidget_synccards->horizontalHeader()->setSectionsClickable(false);
     tableWidget_synccards->setSelectionMode(QAbstractItemView::NoSelection);
+    tableWidget_synccards->setTabKeyNavigation(false); // Tab goes on to the next control
+    tableWidget_synccards->setAccessibleName(tableWidget_synccards->whatsThis());
     tableWidget_synccards->setSelectionBehavior(QAbstractItemView::SelectRows);
     tableWidget_synccards->setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
@@ -223,12 +225,16 @@ void SynccardDialog::on_comboBox_source_currentIndexChanged(int idx)
     const QString source = comboBox_source->itemData(idx).toString();
     if (source.isEmpty())
         return;
+    bSourceWaits = !beginStep();
+    if (bSourceWaits)
+        return;
     if (setSourceToHub(source) == 0) {
         update_doubleSpinBox_frequency();
         update_spinBox_externalDivisor();
         update_comboBox_output();
     }
     bSomethingChanged = true;
+    endStep();
 }
 
 void SynccardDialog::on_doubleSpinBox_frequency_valueChanged(double /*value*/)

@@ -26,25 +26,32 @@ void SynccardDialog::storePreviousSettings()
 
 void SynccardDialog::accept()
 {
+    if (!beginExit(Accepted))
+        return;
     startLeaving();
     if (bSomethingChanged && comboBox_modes->currentIndex() >= 0) {
+        // Taken now: OK writes what is shown when it begins.
+        const QByteArray source = comboBox_source->currentData().toString().toLatin1();
+        const QByteArray output = comboBox_output->currentData().toString().toLatin1();
         const bool isDirect = isDirectSettings(comboBox_modes->currentText());
         const bool isApplied = isDirect ? saveDirectSettings() == 0 : applyMode();
         if (!isApplied && !warnOfFailedChange())
             return;
-        setSyncOutputToHub();
+        setSyncOutputToHub(source, output);
     }
-    done(Accepted);
+    endExit(Accepted);
 }
 
 void SynccardDialog::reject()
 {
+    if (!beginExit(Rejected))
+        return;
     startLeaving();
     if (bSynccardAvailable) {
         storeActualDirectSettingsToSynccardList();
         restorePreviousSettings();
     }
-    done(Rejected);
+    endExit(Rejected);
 }
 
 /** OK and Cancel begin with this: while they send commands, no poll may run and no widget may mark a change. */

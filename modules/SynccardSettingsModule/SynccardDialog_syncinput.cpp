@@ -12,7 +12,16 @@ void SynccardDialog::show_frame_syncinput_if_necessary()
     frame_syncinput->setVisible(bHasSyncInput);
 }
 
+/** A poll that falls due while another step is under way is left out. */
 void SynccardDialog::poll_input_frequency()
+{
+    if (!beginStep())
+        return;
+    update_input_frequency();
+    endStep();
+}
+
+void SynccardDialog::update_input_frequency()
 {
     FlagAnswer has_input_frequency;
     if (cm->getParameter(has_input_frequency.buffer(), "synccard has_input_frequency") != 0) {

@@ -24,6 +24,7 @@ void DoubleSpinboxDelegate::setEditorData(QWidget* editor, const QModelIndex& in
         return;
     const double delay = index.data().toString().toDouble();
     const double maximum = index.sibling(index.row(), MaximumDelayColumn).data().toString().toDouble();
+    spinBox->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
     spinBox->setMinimum(0.0);
     spinBox->setMaximum(maximum);
     spinBox->setDecimals(0);

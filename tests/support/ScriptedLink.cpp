@@ -48,11 +48,13 @@ void ScriptedLink::listen(const ControllerChannel& channel)
                      [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
                          const bool isConvention = category == "standard" && systemTag == "ZORVAN3" && flag == 1;
                          reports.append((isConvention ? "" : "wrong convention: ") + message.toLatin1());
+                         during(message.toLatin1());
                      });
 }
 
 bool ScriptedLink::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
+    during(textOf(operation) + ' ' + command);
     if (commands.size() >= firstFailing && commands.size() < endOfFailing)
         return false;
     const bool isSet = operation == Operation::Set;

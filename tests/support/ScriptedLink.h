@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QVector>
 
+#include <functional>
 #include <utility>
 
 class ControllerChannel;
@@ -43,6 +44,9 @@ public:
     QByteArrayList takeReports() { return std::exchange(reports, {}); }
 
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
+
+    /** Called in each command and in each report with its text, as a channel that runs an event loop would. */
+    std::function<void(const QByteArray& text)> during = [](const QByteArray&) {};
 
     Answers answers;
     QByteArrayList commands;

@@ -64,10 +64,20 @@ QString act(LoadedModule& module, const SessionLine& line)
         return actOnWidget(module, words) ? QString() : undone;
     if (onCells.contains(words.at(0)))
         return actOnCell(module, words) ? QString() : undone;
-    if (words.at(0) == "answer")
+    if (words.at(0) == "leave" && module.dialog()->isVisible())
+        module.user().leave(words.value(1));
+    else if (words.at(0) == "leave")
+        QMetaObject::invokeMethod(module.dialog(), words.value(1) == "OK" ? "accept" : "reject");
+    else if (words.at(0) == "done")
+        module.dialog()->done(words.value(1).toInt());
+    else if (words.at(0) == "activate")
+        module.element->menu_entry->trigger();
+    else if (words.at(0) == "answer")
         module.link.script(line.text.mid(7), line.number);
     else if (line.text != "poll")
-        return "action " + unknown(words.at(0), onWidgets + onCells + QByteArrayList{"answer", "poll"});
+        return "action "
+               + unknown(words.at(0),
+                         onWidgets + onCells + QByteArrayList{"answer", "poll", "leave", "done", "activate"});
     else
         QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
     return {};
@@ -76,7 +86,8 @@ QString act(LoadedModule& module, const SessionLine& line)
 QString SessionRun::problemOf(const Session& session)
 {
     QSet<int> asked;
-    for (const char* way : {"OK", "Cancel", "Escape", "close"}) {
+    const QByteArrayList ways = {"OK", "Cancel", "Escape", "close"};
+    for (const QByteArray& way : session.lines.contains("leaves") ? QByteArrayList{session.text("leaves")} : ways) {
         const SessionRun run(session, way);
         if (!run.problem.isEmpty())
             return run.problem;
@@ -96,14 +107,21 @@ SessionRun::SessionRun(const Session& session, const QByteArray& way)
     : session(session), way(way), module(session.text("protocol"))
 {
     module.link.script(session.lines.value("answer"));
+    interruptions = session.lines.value("during");
+    module.link.during = [this](const QByteArray& text) { interrupt(text); };
     const int result = module.open([&] {
         compareOpening();
         module.link.script(session.lines.value("later"));
         actAll("user");
+        if (session.lines.contains("during"))
+            QTest::qWait(1); // what waits is carried out from the event loop
         compareWidgets("after");
         isOk = way == "OK" && module.see("pushButton_Ok") != " off";
-        module.user().leave(isOk || way != "OK" ? way : "Cancel");
+        if (module.dialog()->isVisible())
+            module.user().leave(isOk || way != "OK" ? way : "Cancel");
     });
+    demand(interruptions.isEmpty(), "nothing happens during " + interruptions.value(0).text,
+           interruptions.value(0).number);
     if (result == -1)
         compareOpening();
     const int expected = session.lines.contains("stops") ? -1 : isOk ? QDialog::Accepted : QDialog::Rejected;
@@ -174,6 +192,20 @@ void SessionRun::compareLines(const QString& what, const QByteArrayList& found, 
            message.arg(QString(way), what, QString::number(i + 1), i > 0 ? came(i - 1) : "(the beginning)", wanted(i),
                        came(i), wanted(i + 1), came(i + 1)),
            expected.value(i, end).number);
+}
+
+/** Does what a line "during TEXT -> ACTION" says, once, in the first command or report that is this text. */
+void SessionRun::interrupt(const QByteArray& text)
+{
+    const auto isMeant = [&](const SessionLine& line) { return line.text.startsWith(text + " -> "); };
+    const auto line = std::find_if(interruptions.begin(), interruptions.end(), isMeant);
+    if (line == interruptions.end())
+        return;
+    const SessionLine action = {line->text.mid(text.size() + 4), line->number};
+    interruptions.erase(line);
+    const QString undone = act(module, action);
+    demand(undone.isEmpty(), undone, action.number);
+    QCoreApplication::processEvents();
 }
 
 void SessionRun::actAll(const QByteArray& key)

@@ -19,11 +19,13 @@ private:
     void compareOpening();
     void compareWidgets(const QByteArray& key);
     void compareLines(const QString& what, const QByteArrayList& found, const SessionLines& expected);
+    void interrupt(const QByteArray& text);
     void actAll(const QByteArray& key);
     void demand(bool condition, const QString& otherwise, int line = 0);
 
     const Session& session;
     QByteArray way;
+    SessionLines interruptions; // that have not happened yet
     LoadedModule module;
     QString problem; // the first thing that differed from the case
     bool isOk = false;
