@@ -14,7 +14,7 @@ QString unknown(const QByteArray& name, const QByteArrayList& known)
     };
     const auto isLess = [&](const QByteArray& a, const QByteArray& b) { return alike(a) < alike(b); };
     const QByteArray nearest = *std::max_element(known.begin(), known.end(), isLess);
-    return QString("\"%1\" is unknown; the nearest is \"%2\"").arg(QString(name), QString(nearest));
+    return QString(R"("%1" is unknown; the nearest is "%2")").arg(QString(name), QString(nearest));
 }
 
 QByteArray Session::text(const QByteArray& key, const QByteArray& otherwise) const

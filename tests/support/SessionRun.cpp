@@ -155,7 +155,7 @@ void SessionRun::compareOpening()
     SessionLines asked = session.lines.value("asks");
     for (const SessionLine& unasked : session.lines.value("unasked")) {
         const auto isMeant = [&](const SessionLine& line) { return line.text.contains(unasked.text); };
-        const auto rest = std::remove_if(asked.begin(), asked.end(), isMeant);
+        auto* const rest = std::remove_if(asked.begin(), asked.end(), isMeant);
         demand(rest != asked.end(), "no command of the opening contains \"" + unasked.text + '"', unasked.number);
         asked.erase(rest, asked.end());
     }
@@ -198,7 +198,7 @@ void SessionRun::compareLines(const QString& what, const QByteArrayList& found, 
 void SessionRun::interrupt(const QByteArray& text)
 {
     const auto isMeant = [&](const SessionLine& line) { return line.text.startsWith(text + " -> "); };
-    const auto line = std::find_if(interruptions.begin(), interruptions.end(), isMeant);
+    auto* const line = std::find_if(interruptions.begin(), interruptions.end(), isMeant);
     if (line == interruptions.end())
         return;
     const SessionLine action = {line->text.mid(text.size() + 4), line->number};
