@@ -26,6 +26,7 @@ void Report::row(const QString& what, double module, double bare, const QString&
               .arg(what, QString::number(module, 'f', 2), QString::number(bare, 'f', 2),
                    QString::number(module / bare, 'f', 2), goal, used > 1.0 ? "over" : "within"));
     demand(used <= tolerance, what + " is over its goal by more than a tenth");
+    demand(bare > 0.0, what + " has nothing to be compared with");
 }
 
 void Report::row(const QString& what, double module)
