@@ -7,8 +7,8 @@ static BackendVersions versionsOf(const ControllerIdentity& controller)
 
 Backend::Backend(const HostSetup& setup)
     : setup(setup), simulated(setup.state), recorded(setup.replay),
-      faultLayer(isReplaying() ? static_cast<ControllerLink*>(&recorded) : &simulated), recorder(&faultLayer),
-      commandChannel(&recorder), backendVersions(versionsOf(setup.state.identity()))
+      faultLayer(isReplaying() ? static_cast<ControllerLink*>(&recorded) : &simulated), commandRecorder(&faultLayer),
+      commandChannel(&commandRecorder), backendVersions(versionsOf(setup.state.identity()))
 {
     faultLayer.failMatching(setup.failing);
     faultLayer.setLatency(setup.latency);
@@ -23,8 +23,8 @@ QString Backend::start()
         state.protocol = recorded.recordedController().protocol;
         state.model = recorded.recordedController().model;
     }
-    if (!setup.record.isEmpty() && !recorder.open(setup.record))
-        return recorder.errorString();
+    if (!setup.record.isEmpty() && !commandRecorder.start(setup.record))
+        return commandRecorder.problem();
     connectTo(state);
     return {};
 }
@@ -33,7 +33,7 @@ void Backend::connectTo(const ControllerState& state)
 {
     backendVersions = versionsOf(state.identity());
     simulated.setState(state);
-    recorder.connected(state.identity());
+    commandRecorder.connected(state.identity());
 }
 
 void Backend::setState(const ControllerState& state)
@@ -42,4 +42,10 @@ void Backend::setState(const ControllerState& state)
         simulated.setState(state);
     else
         connectTo(state);
+}
+
+void Backend::rewind()
+{
+    recorded.rewind();
+    connectTo(simulated.state());
 }

@@ -26,6 +26,9 @@ public:
     /** Puts \a state in force; connects again only if protocol or model differ. */
     void setState(const ControllerState& state);
 
+    /** Goes back to the beginning of the recording that answers, and connects anew. */
+    void rewind();
+
     bool isReplaying() const { return !setup.replay.isEmpty(); }
 
     ControllerChannel& channel() { return commandChannel; }
@@ -33,13 +36,14 @@ public:
     Faults& faults() { return faultLayer; }
     const SimulatedController& controller() const { return simulated; }
     const Replay& replay() const { return recorded; }
+    Recorder& recorder() { return commandRecorder; }
 
 private:
     HostSetup setup;
     SimulatedController simulated;
     Replay recorded;
     Faults faultLayer;
-    Recorder recorder;
+    Recorder commandRecorder;
     ControllerChannel commandChannel;
     BackendVersions backendVersions;
 };

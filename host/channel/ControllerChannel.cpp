@@ -116,7 +116,9 @@ int ControllerChannel::carryOut(Operation operation, const QByteArray& command, 
     QElapsedTimer timer;
     timer.start();
     QByteArray value;
+    ++commandsUnderWay;
     const bool isTaken = take(link->execute(operation, command, &value) ? &value : nullptr);
+    --commandsUnderWay;
     const int result = isTaken ? 0 : -1;
     emit executed({operation, command, isTaken ? value : QByteArray(), result, timer.nsecsElapsed() / 1000});
     return result;

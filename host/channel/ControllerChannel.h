@@ -28,6 +28,9 @@ public:
     int setParameter(const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
     void reportError(const char* category, const char* systemTag, int flag, const char* message) override;
 
+    /** Whether a command is under way: the link may run an event loop meanwhile. */
+    bool isBusy() const { return commandsUnderWay > 0; }
+
 signals:
     /** A command has been answered. */
     void executed(const CommandRecord& record);
@@ -42,4 +45,5 @@ private:
     int answerText(Operation operation, const QByteArray& command, char* answer);
 
     ControllerLink* link;
+    int commandsUnderWay = 0;
 };

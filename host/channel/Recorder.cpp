@@ -1,16 +1,48 @@
 #include "Recorder.h"
 
-bool Recorder::open(const QString& name)
+#include <QFileInfo>
+
+bool Recorder::start(const QString& name)
 {
+    stop();
+    reason.clear();
     file.setFileName(name);
+    const QFileInfo existing(name);
+    if (existing.isFile()) {
+        reason = name + ": this file exists; name another one, or remove it first";
+        return false;
+    }
+    // Without a buffer: after a failed write nothing must be left that would be written when the file is closed.
+    QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    if (!existing.exists())
+        mode |= QIODevice::NewOnly;
+    if (!file.open(mode)) {
+        reason = name + ": " + file.errorString();
+        return false;
+    }
+    wholeSize = 0;
     time.start();
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(recordingHeader) > 0 && file.flush();
+    write(QByteArray(recordingHeader));
+    if (!connection.isEmpty())
+        write({connection, true, {}});
+    if (isRecording())
+        emit started();
+    return isRecording();
+}
+
+void Recorder::stop()
+{
+    if (!isRecording())
+        return;
+    file.close();
+    emit ended({});
 }
 
 void Recorder::connected(const ControllerIdentity& controller)
 {
     below->connected(controller);
-    write({connectionText(controller), true, {}});
+    connection = connectionText(controller);
+    write({connection, true, {}});
 }
 
 bool Recorder::execute(Operation operation, const QByteArray& command, QByteArray* answer)
@@ -20,11 +52,29 @@ bool Recorder::execute(Operation operation, const QByteArray& command, QByteArra
     return isAnswered;
 }
 
-/** Flushes each line: a recording survives a crash of the program. */
 void Recorder::write(const RecordedLine& line)
 {
-    if (!file.isOpen() || (file.write(line.toLine(time.elapsed())) >= 0 && file.flush()))
+    write(line.toLine(time.isValid() ? time.elapsed() : 0));
+}
+
+/** Writes a whole line. If it cannot, it ends the recording and cuts it back to its last whole line: it replays. */
+void Recorder::write(const QByteArray& line)
+{
+    if (!isRecording())
         return;
-    qWarning("%s; the recording ends here", qPrintable(errorString()));
+    qint64 written = file.write(line);
+    if (written > 0 && written < line.size()) // the system says why it stopped when it is asked for the rest
+        written += qMax(qint64(0), file.write(line.mid(static_cast<int>(written))));
+    if (written == line.size()) {
+        wholeSize += written;
+        return;
+    }
+    reason = file.fileName() + ": " + file.errorString() + "; the recording ends here";
+    const bool isFile = QFileInfo(file.fileName()).isFile(); // and no device
+    if (isFile && wholeSize > 0)
+        file.resize(wholeSize);
     file.close();
+    if (isFile && wholeSize == 0)
+        file.remove();
+    emit ended(reason);
 }

@@ -4,24 +4,42 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QObject>
 
 /** Writes each command with its answer into a recording, a line each. docs/workbench.md describes the format. */
-class Recorder : public ControllerLink
+class Recorder : public QObject, public ControllerLink
 {
+    Q_OBJECT
+
 public:
     explicit Recorder(ControllerLink* below) : below(below) {}
 
-    /** Begins the recording \a name. False when the file cannot be written; errorString() says why. */
-    bool open(const QString& name);
-    QString errorString() const { return file.fileName() + ": " + file.errorString(); }
+    /**
+     * Begins the recording \a name with the present connection, if there is one. Only a device may exist already.
+     * False when the file cannot be written; problem() says why.
+     */
+    bool start(const QString& name);
+    void stop();
+    bool isRecording() const { return file.isOpen(); }
+    QString fileName() const { return file.fileName(); }
+    QString problem() const { return reason; }
 
     void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
+signals:
+    void started();
+    /** The recording has ended; \a problem says why it had to, and is empty after stop(). */
+    void ended(const QString& problem);
+
 private:
     void write(const RecordedLine& line);
+    void write(const QByteArray& line);
 
     ControllerLink* below;
     QFile file;
+    qint64 wholeSize = 0; // bytes in whole lines
+    QString reason;
+    QByteArray connection; // the text of the present one
     QElapsedTimer time;
 };

@@ -3,13 +3,24 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
+
+bool isControl(QChar character)
+{
+    return character.category() == QChar::Other_Control;
+}
 
 /** The wire's Latin-1 as UTF-8 on one line. An arrow in the text must not be taken for the one before the answer. */
 QByteArray escaped(const QByteArray& text)
 {
     QString line = QString::fromLatin1(text);
     line.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r").replace("->", "\\->");
+    for (int i = line.size() - 1; i >= 0; --i) {
+        if (isControl(line.at(i)))
+            line.replace(i, 1, QString("\\x%1").arg(line.at(i).unicode(), 2, 16, QChar('0')));
+    }
     return line.toUtf8();
 }
 
@@ -22,6 +33,8 @@ QByteArray unescaped(const QString& text)
             bytes[i] = '\n';
         else if (bytes.at(i) == 'r')
             bytes[i] = '\r';
+        else if (bytes.at(i) == 'x')
+            bytes.replace(i, 3, QByteArray::fromHex(bytes.mid(i + 1, 2)));
     }
     return bytes;
 }
@@ -30,9 +43,13 @@ QByteArray unescaped(const QString& text)
 QString readLine(const QString& text, RecordedLine* line)
 {
     static const QRegularExpression form(R"(^(\S+) ((\S+) .*?)( ->(?: (.*))?| failed)$)");
-    static const QRegularExpression escapes(R"(^(?:[^\\]|\\[nr\\-])*$)");
+    static const QRegularExpression escapes(R"(^(?:[^\\]|\\[nr\\-]|\\x[0-9a-f]{2})*$)");
     if (QString::fromLatin1(text.toLatin1()) != text)
         return "a character that is not Latin-1, or no UTF-8";
+    const auto* const control = std::find_if(text.begin(), text.end(), isControl);
+    if (control != text.end())
+        return QString(R"(a control character, code %1; it is written "%2")")
+            .arg(QString::number(control->unicode()), QString::fromUtf8(escaped(QByteArray(1, control->toLatin1()))));
     if (!escapes.match(text).hasMatch())
         return R"(an unknown "\"; the character itself is written "\\")";
     const QRegularExpressionMatch match = form.match(text);
@@ -78,12 +95,13 @@ bool readConnection(const QByteArray& text, ControllerIdentity* controller)
 bool readRecording(const QString& file, QVector<RecordedLine>* lines, QString* error)
 {
     QFile input(file);
-    if (!input.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!input.open(QIODevice::ReadOnly)) {
         *error = file + ": " + input.errorString();
         return false;
     }
-    const QStringList texts = QString::fromUtf8(input.readAll()).split('\n');
-    QString reason = texts.first() + '\n' == recordingHeader ? QString() : "this is no recording";
+    QStringList texts = QString::fromUtf8(input.readAll()).replace("\r\n", "\n").split('\n');
+    const bool isCutOff = !texts.takeLast().isEmpty();
+    QString reason = texts.value(0) + '\n' == recordingHeader ? QString() : "this is no recording";
     int number = 1;
     for (; reason.isEmpty() && number < texts.size(); ++number) {
         RecordedLine line{{}, true, {}, number + 1};
@@ -91,6 +109,10 @@ bool readRecording(const QString& file, QVector<RecordedLine>* lines, QString* e
             continue;
         reason = readLine(texts.at(number), &line);
         lines->append(line);
+    }
+    if (reason.isEmpty() && isCutOff) {
+        reason = "cut off: the last line has no line end";
+        ++number;
     }
     ControllerIdentity controller;
     if (reason.isEmpty() && !readConnection(lines->value(0).text, &controller)) {

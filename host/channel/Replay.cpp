@@ -16,21 +16,48 @@ ControllerIdentity Replay::recordedController() const
     return controller;
 }
 
+/** The position of the next line that is no poll. */
+int Replay::nextCommand() const
+{
+    return static_cast<int>(std::find_if_not(lines.begin() + position, lines.end(), isPoll) - lines.begin());
+}
+
 bool Replay::isAtEnd() const
 {
-    return std::all_of(lines.begin() + position, lines.end(), isPoll);
+    return nextCommand() == lines.size();
+}
+
+QString Replay::progress() const
+{
+    const QString next = isAtEnd() ? "the end" : QString::fromLatin1(lines.at(nextCommand()).text);
+    return QString("%1 of %2, next: %3").arg(position).arg(lines.size()).arg(next);
+}
+
+void Replay::rewind()
+{
+    position = 0;
+    polls.clear();
+    firstProblem.clear();
+    emit moved();
+}
+
+void Replay::connected(const ControllerIdentity& controller)
+{
+    take({connectionText(controller), true, {}});
+    emit moved();
 }
 
 bool Replay::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
     const RecordedLine line = take({textOf(operation) + ' ' + command, true, "no"});
     *answer = line.answer;
+    emit moved();
     return line.isAnswered;
 }
 
 RecordedLine Replay::take(const RecordedLine& asked)
 {
-    for (; position < lines.size() && isPoll(lines.at(position)); ++position)
+    for (const int due = nextCommand(); position < due; ++position)
         polls.insert(lines.at(position).text, lines.at(position));
     if (!firstProblem.isEmpty())
         return {asked.text, false, {}};

@@ -25,18 +25,26 @@ public:
 
     /** What is damaged, or the first command that differed, with its line, what was expected and what came. */
     QString problem() const { return firstProblem; }
+    QString fileName() const { return file; }
 
     /** Whether every command of the recording has been asked. */
     bool isAtEnd() const;
+    /** "42 of 214, next: get synccard source d01": how many lines are done, and the command that is due. */
+    QString progress() const;
+    /** Goes back to the beginning, also after a difference. */
+    void rewind();
 
-    void connected(const ControllerIdentity& controller) override { take({connectionText(controller), true, {}}); }
+    void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
 signals:
     /** A command differs from the recording; \a problem says how. */
     void differed(const QString& problem);
+    /** The recording has been asked, or rewound. */
+    void moved();
 
 private:
+    int nextCommand() const;
     /** The recorded line for what is asked; a failed one when it is not the one that is due. */
     RecordedLine take(const RecordedLine& asked);
 
