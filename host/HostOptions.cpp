@@ -1,13 +1,12 @@
 #include "HostOptions.h"
 
 #include "Console.h"
-#include "ControllerFile.h"
 #include "Faults.h"
+#include "NamedControllers.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
-HostOptions::HostOptions(const QString& description)
+HostOptions::HostOptions(const QString& description, ReplayedController replayed) : replayed(replayed)
 {
     parser.setApplicationDescription(description);
     parser.addOption({{"h", "help"}, "Shows this help."});
@@ -38,43 +37,28 @@ bool HostOptions::parse(int argc, char* argv[])
     host.pluginFile = parser.value("plugin");
     host.record = parser.value("record");
     host.replay = parser.value("replay");
-    return readController() && readProtocol() && readFaults() && checkRecordings();
+    return readController() && readProtocol() && readFaults() && checkFiles() && checkReplay();
 }
 
-QString HostOptions::controllerFolder()
-{
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../" CONTROLLER_DIR);
-}
-
-/** Lists name and description of each controller in the folder, unless one of the files is broken. */
+/** Lists name and description of each named controller, unless one of their files is broken. */
 bool HostOptions::listControllers()
 {
-    const QFileInfoList files = QDir(controllerFolder()).entryInfoList({"*.json"}, QDir::Files, QDir::Name);
+    QVector<HostSetup> controllers;
+    const QString problem = readNamedControllers(&controllers);
     int width = 0;
-    for (const QFileInfo& file : files)
-        width = qMax(width, file.completeBaseName().size());
+    for (const HostSetup& listed : qAsConst(controllers))
+        width = qMax(width, listed.controllerName.size());
     QStringList lines;
-    for (const QFileInfo& file : files) {
-        ControllerState listed = ControllerState::builtIn();
-        QString error;
-        if (!readControllerFile(file.filePath(), &listed, &error))
-            return refuse(error);
-        lines.append(file.completeBaseName().leftJustified(width) + "  " + listed.description);
-    }
-    return lines.isEmpty() ? refuse(controllerFolder() + ": no controller files") : endWith(lines.join('\n'), 0);
+    for (const HostSetup& listed : qAsConst(controllers))
+        lines.append(listed.controllerName.leftJustified(width) + "  " + listed.state.description);
+    return problem.isEmpty() ? endWith(lines.join('\n'), 0) : refuse(problem);
 }
 
 bool HostOptions::readController()
 {
-    if (!parser.isSet("controller"))
-        return true;
-    const QString wanted = parser.value("controller");
-    const bool isName = !wanted.contains('/') && !wanted.endsWith(".json");
-    const QString file = isName ? controllerFolder() + '/' + wanted + ".json" : wanted;
-    if (isName && !QFileInfo::exists(file))
-        return refuse("--controller " + wanted + ": no such controller, see --list");
-    QString error;
-    return readControllerFile(file, &host.state, &error) || refuse(error);
+    const QString problem =
+        parser.isSet("controller") ? ::readController(parser.value("controller"), &host) : QString();
+    return problem.isEmpty() || refuse(problem);
 }
 
 bool HostOptions::readProtocol()
@@ -97,18 +81,25 @@ bool HostOptions::readFaults()
     return isTaken || refuse("--latency " + parser.value("latency") + ": milliseconds from 0 to 5000 are expected");
 }
 
-bool HostOptions::checkRecordings()
+bool HostOptions::checkFiles()
 {
-    for (const char* option : {"record", "replay"}) {
+    for (const char* option : {"record", "replay", "plugin"}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return refuse(QString("--%1: a file is expected").arg(QLatin1String(option)));
     }
+    return true;
+}
+
+bool HostOptions::checkReplay()
+{
     if (!parser.isSet("replay"))
         return true;
     if (parser.isSet("fail"))
         return refuse("--fail: not with --replay, which fails the commands that failed when they were recorded");
-    if (QFileInfo(host.record) == QFileInfo(host.replay))
-        return refuse(host.record + ": --record would overwrite what --replay reads");
+    if (parser.isSet("protocol"))
+        return refuse("--protocol: not with --replay, which takes the protocol from the recording");
+    if (parser.isSet("controller") && replayed == Ignored)
+        return refuse("--controller: not with --replay, which answers like the recorded controller");
     return true;
 }
 

@@ -18,7 +18,10 @@ int endProgram(const Ending& ending);
 class HostOptions
 {
 public:
-    explicit HostOptions(const QString& description);
+    /** What a program does with --controller beside --replay. */
+    enum ReplayedController { Ignored, Compared };
+
+    explicit HostOptions(const QString& description, ReplayedController replayed = Ignored);
 
     /** Adds an option of one program. */
     void addOption(const QCommandLineOption& option) { parser.addOption(option); }
@@ -36,9 +39,6 @@ public:
     /** What the arguments ask for; by default the built-in controller and the plug-in beside the program. */
     const HostSetup& setup() const { return host; }
 
-    /** The folder of the named controllers, a file NAME.json each. Needs a QCoreApplication. */
-    static QString controllerFolder();
-
 private:
     bool endWith(const QString& text, int status);
     bool refuse(const QString& message) { return endWith(message, 2); }
@@ -46,9 +46,11 @@ private:
     bool readController();
     bool readProtocol();
     bool readFaults();
-    bool checkRecordings();
+    bool checkFiles();
+    bool checkReplay();
 
     QCommandLineParser parser;
+    ReplayedController replayed;
     HostSetup host;
     Ending itsEnding;
 };

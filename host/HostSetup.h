@@ -7,6 +7,7 @@
 /** What the command line of a host program asks for. */
 struct HostSetup
 {
+    QString controllerName = "full"; // the name of a named controller, or of a file
     ControllerState state = ControllerState::builtIn();
     QString pluginFile;         // empty: the one beside the program
     QString record;             // the file to record into; empty: none

@@ -1,8 +1,7 @@
-#include "ControllerFile.h"
 #include "DevelopmentHost.h"
 #include "Files.h"
-#include "HostOptions.h"
 #include "LoadedModule.h"
+#include "NamedControllers.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -31,7 +30,10 @@ void TestHost::namesWhatIsWrong()
         ": expected an object with the interface \"org.zorvan.zorvan2.gui.Module/0.2.0\", found ";
     const QMap<QString, QString> lines = {
         {"--colour", "Unknown option 'colour'. See --help."},
-        {"--replay=a --record=./a", "./a: --record would overwrite what --replay reads"},
+        {"--record=" HOST_PROGRAM, HOST_PROGRAM ": this file exists; name another one, or remove it first"},
+        {"--plugin=", "--plugin: a file is expected"},
+        {"--replay=a --protocol=1.2", "--protocol: not with --replay, which takes the protocol from the recording"},
+        {"--replay=a --controller=full", "--controller: not with --replay, which answers like the recorded controller"},
         {"--latency=5001", "--latency 5001: milliseconds from 0 to 5000 are expected"},
         {"--fail=(", "--fail (: missing closing parenthesis"},
         {"--record=", "--record: a file is expected"},
@@ -86,9 +88,8 @@ void TestHost::opensControllers()
     failOnWarnings();
     const QByteArray asked = right.left(right.indexOf(':'));
     HostSetup wanted;
-    QString seen;
-    QVERIFY2(readControllerFile(HostOptions::controllerFolder() + '/' + left + ".json", &wanted.state, &seen),
-             qPrintable(seen));
+    QString seen = readController(left, &wanted);
+    QCOMPARE(seen, QString());
     DevelopmentHost host(wanted);
     QVERIFY2(host.start(), qPrintable(host.errorString()));
     const DialogUser user(host.dialog());
@@ -108,13 +109,12 @@ void TestHost::placesTheEntry()
 {
     DevelopmentHost host{HostSetup()};
     QMenuBar* bar = host.window().menuBar();
-    bar->addMenu("Late")->menuAction()->setProperty("orderNumber", 300);
     QVERIFY2(host.start(), qPrintable(host.errorString()));
     QStringList titles;
     const QList<QAction*> actions = bar->actions();
     for (const QAction* action : actions)
         titles.append(action->text());
-    QCOMPARE(titles.indexOf("H&ardware") + 1, titles.indexOf("Late"));
+    QCOMPARE(titles, QStringList({"Ho&st", "&Recording", "&Controller", "H&ardware", "&Help"}));
 }
 
 QTEST_MAIN(TestHost)

@@ -32,6 +32,8 @@ Tour::Tour(const HostSetup& setup, const QString& pictureFolder)
     boxPoller.start(boxPollMilliseconds);
     QObject::connect(&host.replay(), &Replay::differed, &boxPoller,
                      [this](const QString& problem) { demand(false, problem); });
+    QObject::connect(&host.recorder(), &Recorder::ended, &boxPoller,
+                     [this](const QString& problem) { demand(problem.isEmpty(), problem); });
 }
 
 int Tour::run()

@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSaveFile>
 
 namespace {
 
@@ -38,4 +39,14 @@ bool readControllerFile(const QString& file, ControllerState* state, QString* er
     if (!reason.isEmpty())
         *error = file + ": " + reason;
     return reason.isEmpty();
+}
+
+bool saveControllerFile(const QString& file, const ControllerState& state, QString* error)
+{
+    QSaveFile output(file);
+    const QByteArray text = QJsonDocument(toTree(state).toJson().toObject()).toJson();
+    if (output.open(QIODevice::WriteOnly) && output.write(text) == text.size() && output.commit())
+        return true;
+    *error = file + ": " + output.errorString();
+    return false;
 }

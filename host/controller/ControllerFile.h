@@ -8,3 +8,9 @@
  * something unknown or contradicts itself; \a state is unchanged then.
  */
 bool readControllerFile(const QString& file, ControllerState* state, QString* error);
+
+/**
+ * Writes \a state into a controller file that reads back to the same state, in place of what \a file held before. False
+ * with "file: reason" in \a error when it cannot; \a file is unchanged then.
+ */
+bool saveControllerFile(const QString& file, const ControllerState& state, QString* error);

@@ -68,6 +68,7 @@ ControllerState ControllerState::builtIn()
     second.description = "Sync extension";
 
     ControllerState state;
+    state.description = "Protocol 1.23 with everything: the built-in controller";
     state.modes = {{"cam100", "Cameras at 100 Hz"},
                    {"cam200", "Cameras at 200 Hz"},
                    {"genlock", "Genlock to video"},

@@ -13,7 +13,8 @@ static constexpr QSize initialSize(960, 560);
 
 Workbench::Workbench(DevelopmentHost* host)
 {
-    setWindowTitle(tr("Workbench"));
+    connect(&host->window(), &MainWindow::described, this,
+            [this](const QString& brief) { setWindowTitle(tr("%1 - Workbench").arg(brief)); });
     setWindowIcon(host->window().windowIcon());
     resize(initialSize);
     auto* message = new QLabel;
