@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # usage: recorded_tour.sh TOUR_PROGRAM FOLDER
-# A recorded tour replays to its end; with a line edited, one missing, one too many, or damaged, it says where it stops.
+# ./dev records a tour where it is called. The recording replays to its end; with a line edited, one missing, one too
+# many, or damaged, the tour says where it stops.
 set -euo pipefail
 tour=$1 folder=$2
 rm -rf "$folder"
@@ -20,7 +21,12 @@ expect() {
     exit 1
 }
 
-"$tour" --record "$whole" >/dev/null
+# A repository whose ./dev builds nothing and finds the program under test.
+mkdir -p "$folder/repository/build/dev/bin"
+sed 's/^build() {/&\n    return/' "$(dirname "$0")/../dev" >"$folder/repository/dev"
+ln -s "$tour" "$folder/repository/build/dev/bin/synccard-tour"
+(cd "$folder" && bash repository/dev tour --record whole.txt --pictures pictures >/dev/null)
+ls "$folder/pictures/locked.png" >/dev/null
 expect "$whole" 0 ""
 expect "a delay that fails" 1 "expected cards 1, channels 1, delay: 1.234, found cards 1, channels 1, delay: 0" \
     --fail 'output_delay d01 ch01 1'
