@@ -11,8 +11,9 @@
 
 /**
  * Visits the dialog like a person: changes settings, cancels changes, meets a legacy controller, a locked one and one
- * without synccard. Prints every command with its answer, and what the dialog shows. After each visit it compares the
- * state of the controller with the expected one. Needs a QApplication.
+ * without synccard. Leaves out, with the reason, the visits for which the controller leaves no room. Prints every
+ * command with its answer, and what the dialog shows. After each visit it compares the state of the controller with the
+ * expected one. Needs a QApplication.
  */
 class Tour
 {
@@ -38,7 +39,7 @@ private:
 
     // The steps that visits share: Tour.cpp
     void restart(const ControllerState& state);
-    void visit(const QString& title, const DialogUser::Steps& steps);
+    void visit(const QString& title, const QString& obstacle, const DialogUser::Steps& steps);
     void compareState(const QString& title);
     void waitForPoll();
     void closeBox();

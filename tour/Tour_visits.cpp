@@ -7,75 +7,142 @@
 
 namespace {
 
-/** OK writes the frequency with two decimals, and delays in whole microseconds, as the dialog shows them. */
-void roundAsShown(CardState* card)
+bool isBefore(const ControllerState& state, int major, int minor)
 {
-    if (card->source == "internal")
-        card->frequency = std::round(card->frequency * 100.0) / 100.0;
-    for (ChannelState& channel : card->channels)
+    return state.protocol < VersionInfo(major, minor, -1);
+}
+
+/** The largest internal frequency that the dialog shows of the first card. */
+double largestFrequency(const ControllerState& state)
+{
+    return isBefore(state, 1, 5) ? 60.0 : state.cards.value(0).maxFrequency;
+}
+
+/** The internal frequency as the dialog shows it, and writes it. */
+double shownFrequency(const ControllerState& state)
+{
+    return std::round(qMin(state.cards.first().frequency, largestFrequency(state)) * 100.0) / 100.0;
+}
+
+/** From protocol 1.23 on OK writes the output shown: the only one that the source drives is shown as chosen. */
+void writeOutput(ControllerState* state)
+{
+    CardState& card = state->cards.first();
+    const QStringList outputs = card.findSource(card.source)->outputs;
+    if (!isBefore(*state, 1, 23) && outputs.size() == 1)
+        card.output = outputs.first();
+}
+
+/** OK writes the direct settings as the dialog shows them, which rounds the frequency and the delays. */
+void writeAsShown(ControllerState* state)
+{
+    CardState& card = state->cards.first();
+    if (card.source == "internal")
+        card.frequency = shownFrequency(*state);
+    for (ChannelState& channel : card.channels)
         channel.delay = std::round(channel.delay * 1000.0) / 1000.0;
+    writeOutput(state);
+}
+
+/** The first mode that is not in force; empty when there is none. */
+QString modeToChoose(const ControllerState& state)
+{
+    QStringList ids = state.offeredModes();
+    ids.removeAll("none");
+    ids.removeAll(state.activeMode);
+    return ids.value(0);
+}
+
+/** What a visit changes, or looks at; a bit each. */
+enum Visit { Frequency = 1, Source = 2, Channels = 4, Mode = 8, Lock = 16, Direct = 7, Change = 15, Any = 31 };
+
+/** Why a controller of this \a state leaves no room for the \a visit; an empty text when there is room. */
+QString obstacle(const ControllerState& state, Visit visit)
+{
+    const CardState card = state.cards.value(0);
+    const bool hasBothEdges = !isBefore(state, 1, 15);
+    const int sources = card.sources.size() - (!hasBothEdges && card.findSource("ttlboth") ? 1 : 0);
+    const struct
+    {
+        Visit visits;
+        bool holds;
+        const char* text;
+    } reasons[] = {
+        {Any, state.cards.isEmpty() || !state.cardsPresent, "the controller has no synccard"},
+        {Any, isBefore(state, 0, 8), "before protocol 0.8 the dialog shows no synccard"},
+        {Lock, isBefore(state, 1, 9), "before protocol 1.9 the dialog knows no lock"},
+        {Change, state.locked, "the controller is locked"},
+        {Mode, modeToChoose(state).isEmpty(), "there is no other predefined mode"},
+        {Direct, isBefore(state, 1, 2), "before protocol 1.2 there are no direct settings"},
+        {Direct, state.activeMode != "none", "a predefined mode is active"},
+        {Direct, state.refusesSources, "the controller refuses every source"},
+        {Direct, card.source == "ttlboth" && !hasBothEdges, "before protocol 1.15 ttlboth is not offered"},
+        {Direct, card.channels.isEmpty(), "without channels OK and Cancel write no direct settings"},
+        {Frequency, card.source != "internal", "the source is external"},
+        {Frequency, card.frequency >= largestFrequency(state), "the frequency is at its largest"},
+        {Source, sources < 2, "the card offers no second source"},
+    };
+    for (const auto& reason : reasons) {
+        if ((reason.visits & visit) != 0 && reason.holds)
+            return reason.text;
+    }
+    return {};
 }
 
 } // namespace
 
 void Tour::raiseFrequency()
 {
-    visit("Raise the internal frequency, OK", [this] {
-        demand(!initial.cards.isEmpty(), "the tour needs a controller with a synccard");
-        demand(!initial.locked, "the tour needs a controller that is not locked");
-        const auto* frequency = user->find<QWidget>("doubleSpinBox_frequency");
-        if (!demand(frequency->isVisible() && frequency->isEnabled(),
-                    "the tour needs a controller on direct settings with the internal source"))
-            return;
+    visit("Raise the internal frequency", obstacle(expected, Frequency), [this] {
         waitForPoll();
         look("direct-settings");
         user->focus(Qt::Key_F);
         user->press("doubleSpinBox_frequency", Qt::Key_Up);
-        if (hasFailed())
-            return;
-        CardState& card = expected.cards.first();
-        card.frequency = qMin(card.frequency + 1.0, card.maxFrequency);
-        roundAsShown(&card);
-        expected.activeMode = "none";
+        expected.cards.first().frequency += 1.0;
+        writeAsShown(&expected);
         user->leave("OK");
     });
 }
 
 void Tour::takeSourceBack()
 {
-    visit("Change the source, Cancel", [this] {
+    visit("Change the source and take it back", obstacle(expected, Source), [this] {
         const auto* sources = user->find<QComboBox>("comboBox_source");
+        const auto* divisor = user->find<QSpinBox>("spinBox_externalDivisor");
+        const int shownDivisor = divisor->value();
         user->focus(Qt::Key_C);
-        user->press("comboBox_source", Qt::Key_Down);
+        user->press("comboBox_source", sources->currentIndex() + 1 < sources->count() ? Qt::Key_Down : Qt::Key_Up);
         look("external-source");
-        // Cancel restores the source, but not the divisor and the output that the controller changed with it.
         CardState& card = expected.cards.first();
         const SourceState* visited = card.findSource(sources->currentData().toString());
-        if (!demand(visited && visited->keyword != card.source, "the controller offers no second source"))
+        if (!demand(visited && visited->keyword != card.source, "the source does not change"))
             return;
+        // Cancel restores the source, and the frequency or the divisor that was shown beside it. It leaves the output,
+        // and beside the internal source the divisor, as the controller changed them with the source.
         const QString source = card.source;
         card.select(*visited);
         card.source = source;
+        if (source == "internal")
+            card.frequency = shownFrequency(expected);
+        else if (divisor->value() != shownDivisor)
+            card.divisor = shownDivisor;
         user->leave("Cancel");
     });
 }
 
 void Tour::editChannels()
 {
-    visit("Edit a delay and an idle flag, OK", [this] {
-        CardState& card = expected.cards.first();
-        if (!demand(!card.channels.isEmpty(), "the controller has no channels"))
-            return;
+    visit("Edit a delay and an idle flag", obstacle(expected, Channels), [this] {
         QDoubleSpinBox* editor = user->editDelay(0);
         if (!demand(editor, "the delay editor does not open"))
             return;
         look("delay-editor");
         const int delay = qMin(1234, static_cast<int>(editor->maximum()));
         DialogUser::type(editor, QString::number(delay), Qt::Key_Return);
-        const int last = card.channels.size() - 1;
+        CardState& card = expected.cards.first();
         const bool isIdleFixed = initial.cards.last().model == "0x0301";
-        user->clickCell(last, 2);
-        roundAsShown(&card);
+        user->clickCell(card.channels.size() - 1, 2);
+        writeAsShown(&expected);
         card.channels.first().delay = delay / 1000.0;
         if (!isIdleFixed)
             card.channels.last().activeDuringIdle = !card.channels.last().activeDuringIdle;
@@ -86,13 +153,13 @@ void Tour::editChannels()
 
 void Tour::choosePredefinedMode()
 {
-    visit("Choose a predefined mode, OK", [this] {
-        if (!demand(!initial.modes.isEmpty(), "the controller has no predefined modes"))
-            return;
+    visit("Choose a predefined mode", obstacle(expected, Mode), [this] {
+        const QString mode = modeToChoose(expected);
         user->focus(Qt::Key_S);
-        demand(user->choose("comboBox_modes", initial.modes.first().id), "the mode cannot be chosen");
+        demand(user->choose("comboBox_modes", mode), "the mode cannot be chosen");
         look("predefined-mode");
-        expected.activeMode = initial.modes.first().id;
+        expected.activeMode = mode;
+        writeOutput(&expected);
         user->leave("OK");
     });
 }
@@ -101,12 +168,14 @@ void Tour::meetLegacyController()
 {
     ControllerState legacy = initial;
     legacy.protocol = VersionInfo(0, 12, 7);
-    legacy.activeMode = legacy.modes.last().id;
+    legacy.locked = false; // a legacy controller knows no lock
+    legacy.activeMode = legacy.offeredModes().constLast();
     restart(legacy);
-    visit("A legacy controller: choose a mode, OK", [this] {
+    visit("Choose a mode on a legacy controller", obstacle(legacy, Mode), [this] {
         look("legacy");
-        demand(user->choose("comboBox_modes", initial.modes.first().id), "the mode cannot be chosen");
-        expected.activeMode = initial.modes.first().id;
+        const QString mode = modeToChoose(expected);
+        demand(user->choose("comboBox_modes", mode), "the mode cannot be chosen");
+        expected.activeMode = mode;
         user->leave("OK");
     });
 }
@@ -116,7 +185,7 @@ void Tour::meetLockedController()
     ControllerState locked = initial;
     locked.locked = true;
     restart(locked);
-    visit("A locked controller: look, Escape", [this] {
+    visit("Look at a locked controller", obstacle(locked, Lock), [this] {
         waitForPoll();
         look("locked");
         user->press("comboBox_modes", Qt::Key_Up);
@@ -130,7 +199,7 @@ void Tour::meetControllerWithoutSynccard()
     ControllerState bare = initial;
     bare.cards.clear();
     restart(bare);
-    visit("A controller without synccard: look, close", [this] {
+    visit("Look at a controller without synccard", {}, [this] {
         look("no-synccard");
         demand(!user->find<QWidget>("label_error")->isHidden(), "the notice is missing");
         user->leave("close");
