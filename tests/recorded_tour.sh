@@ -26,7 +26,7 @@ mkdir -p "$folder/repository/build/dev/bin"
 sed 's/^build() {/&\n    return/' "$(dirname "$0")/../dev" >"$folder/repository/dev"
 ln -s "$tour" "$folder/repository/build/dev/bin/synccard-tour"
 (cd "$folder" && bash repository/dev tour --record whole.txt --pictures pictures >/dev/null)
-ls "$folder/pictures/locked.png" >/dev/null
+ls "$folder/pictures/workbench.png" >/dev/null
 expect "$whole" 0 ""
 expect "a delay that fails" 1 "expected cards 1, channels 1, delay: 1.234, found cards 1, channels 1, delay: 0" \
     --fail 'output_delay d01 ch01 1'

@@ -8,10 +8,13 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
 #include <QTest>
 
 static constexpr int boxPollMilliseconds = 5;
 static constexpr int pollDeadlineMilliseconds = 20000; // a poll's two commands may be slow
+static constexpr int pictureMargin = 16;               // pixels
+static constexpr int workbenchWidth = 1080;            // pixels; its picture cuts off no command
 
 static void printCommand(const CommandRecord& record)
 {
@@ -23,7 +26,7 @@ static void printCommand(const CommandRecord& record)
 }
 
 Tour::Tour(const HostSetup& setup, const QString& pictureFolder)
-    : pictureFolder(pictureFolder), host(setup)
+    : pictureFolder(pictureFolder), host(setup), workbench(&host)
 {
     QObject::connect(&host.channel(), &ControllerChannel::executed, printCommand);
     QObject::connect(&host.channel(), &ControllerChannel::reported,
@@ -125,12 +128,30 @@ void Tour::look(const QString& name)
         if (!line.endsWith(" hidden"))
             print("  " + line);
     }
-    if (pictureFolder.isEmpty() || hasFailed())
-        return;
     // A dialog of fixed size takes its new size one turn of the event loop after widgets were shown or hidden.
     QTest::qWait(1);
+    savePicture(name, user->dialog()->grab());
+}
+
+/** Takes a picture of the dialog with the workbench beside it. */
+void Tour::lookAtWorkbench()
+{
+    const QPixmap left = user->dialog()->grab();
+    workbench.resize(workbenchWidth, left.height());
+    const QPixmap right = workbench.grab();
+    QPixmap both(left.width() + right.width() + 3 * pictureMargin, left.height() + 2 * pictureMargin);
+    both.fill(Qt::darkGray);
+    QPainter painter(&both);
+    painter.drawPixmap(pictureMargin, pictureMargin, left);
+    painter.drawPixmap(left.width() + 2 * pictureMargin, pictureMargin, right);
+    savePicture("workbench", both);
+}
+
+void Tour::savePicture(const QString& name, const QPixmap& picture)
+{
     const QString file = QDir(pictureFolder).filePath(name + ".png");
-    demand(user->dialog()->grab().save(file), file + ": cannot be written");
+    if (!pictureFolder.isEmpty() && !hasFailed())
+        demand(picture.save(file), file + ": cannot be written");
 }
 
 bool Tour::demand(bool condition, const QString& what)

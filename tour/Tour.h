@@ -3,6 +3,7 @@
 #include "ControllerState.h"
 #include "DevelopmentHost.h"
 #include "DialogUser.h"
+#include "Workbench.h"
 
 #include <QString>
 #include <QTimer>
@@ -44,6 +45,8 @@ private:
     void waitForPoll();
     void closeBox();
     void look(const QString& name);
+    void lookAtWorkbench();
+    void savePicture(const QString& name, const QPixmap& picture);
     /** Keeps the first thing amiss; false once there is one. */
     bool demand(bool condition, const QString& what);
     bool hasFailed() const { return !firstProblem.isEmpty(); }
@@ -53,6 +56,7 @@ private:
     QString pictureFolder;
     QString firstProblem;
     DevelopmentHost host;
+    Workbench workbench; // for its picture; it is not shown
     std::unique_ptr<DialogUser> user;
     QTimer boxPoller;
 };

@@ -96,6 +96,7 @@ void Tour::raiseFrequency()
     visit("Raise the internal frequency", obstacle(expected, Frequency), [this] {
         waitForPoll();
         look("direct-settings");
+        lookAtWorkbench();
         user->focus(Qt::Key_F);
         user->press("doubleSpinBox_frequency", Qt::Key_Up);
         expected.cards.first().frequency += 1.0;
