@@ -11,6 +11,7 @@
 
 namespace {
 
+#ifdef Q_OS_UNIX
 /** While one lives, the C library formats numbers with a decimal point. QApplication sets the user's locale. */
 class DecimalPoint
 {
@@ -27,10 +28,15 @@ private:
     locale_t plain;
     locale_t previous;
 };
+#else
+/** Elsewhere Qt leaves the C library in its "C" locale, which has a decimal point. */
+class DecimalPoint
+{};
+#endif
 
 Q_ATTRIBUTE_FORMAT_PRINTF(1, 0) QByteArray formatted(const char* format, va_list arguments)
 {
-    const DecimalPoint scope;
+    const DecimalPoint scope{};
     va_list again;
     va_copy(again, arguments);
     const int length = vsnprintf(nullptr, 0, format, again);
