@@ -13,7 +13,6 @@
 
 namespace {
 
-const char* const pluginIdentifier = "org.zorvan.Zorvan2.SnyccardSettingsModule";
 const char* const orderProperty = "orderNumber";
 
 /** Inserts \a action into a menu or a menu bar, before those with a larger order number. */
@@ -54,13 +53,13 @@ QString ModuleLoader::defaultFile()
 
 bool ModuleLoader::load()
 {
-    const QString expectedPlugin = QString("a module plug-in \"%1\"").arg(QLatin1String(pluginIdentifier));
+    const QString expectedPlugin = "a module plug-in \"" MODULE_IDENTIFIER "\"";
     if (!QFileInfo(file).isFile())
         return refuse(expectedPlugin, "no such file");
     const QString identifier = loader.metaData().value("IID").toString();
     if (identifier.isEmpty())
         return refuse(expectedPlugin, "no Qt plug-in");
-    if (identifier != pluginIdentifier)
+    if (identifier != MODULE_IDENTIFIER)
         return refuse(expectedPlugin, '"' + identifier + '"');
     QObject* instance = loader.instance();
     if (!instance)

@@ -57,7 +57,10 @@ diff -u "$sources/tests/data/minimal-host.txt" "$folder/commands.txt" >&2 || fai
 [ "$status" = 0 ] || fail "expected status 0, found $status"
 ! grep -v 'propagateSizeHints' "$folder/warnings.txt" >&2 || fail "unexpected warnings"
 
-for file in "$folder/missing.so" "$sources/README.md" "$other"; do
+build "$sources" "$folder/plugin" -DHOST_DOMAIN=com.example
+grep -q 'com\.example\.Zorvan2\.SnyccardSettingsModule' "$plugin" || fail "HOST_DOMAIN is not in the plug-in's metadata"
+
+for file in "$plugin" "$folder/missing.so" "$sources/README.md" "$other"; do
     status=0
     said=$("$host" "$file" 2>&1) || status=$?
     [[ "$status $said" = "2 minimal-host: no module plug-in: $file: "* && $said != *$'\n'* ]] \

@@ -25,7 +25,7 @@ private slots:
 /** A mistake on the command line prints one line with place and remedy, and ends with status 2. */
 void TestHost::namesWhatIsWrong()
 {
-    const QString noModule = ": expected a module plug-in \"org.zorvan.Zorvan2.SnyccardSettingsModule\", found ";
+    const QString noModule = ": expected a module plug-in \"" MODULE_IDENTIFIER "\", found ";
     const QString noInterface =
         ": expected an object with the interface \"org.zorvan.zorvan2.gui.Module/0.2.0\", found ";
     const QMap<QString, QString> lines = {

@@ -72,7 +72,7 @@ void TestPlugin::hasIdentity()
     LoadedModule module;
     QPluginLoader loader(module.loader.fileName());
     const QJsonObject data = loader.metaData();
-    QCOMPARE(data.value("IID").toString(), "org.zorvan.Zorvan2.SnyccardSettingsModule");
+    QCOMPARE(data.value("IID").toString(), MODULE_IDENTIFIER);
     QCOMPARE(data.value("className").toString(), "SynccardSettingsModule");
     QCOMPARE(data.value("debug").toBool(true), false);
     QCOMPARE(data.value("version").toInt(), QT_VERSION & 0xFFFF00); // without the patch number

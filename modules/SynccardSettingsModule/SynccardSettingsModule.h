@@ -13,7 +13,7 @@
 class SynccardSettingsModule : public QObject, public ModuleInterface
 {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.zorvan.Zorvan2.SnyccardSettingsModule")
+    Q_PLUGIN_METADATA(IID MODULE_IDENTIFIER)
     Q_INTERFACES(ModuleInterface)
 
 public:
