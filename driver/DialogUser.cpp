@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -55,9 +56,9 @@ void DialogUser::press(const char* name, Qt::Key key) const
     QTest::keyClick(find<QWidget>(name), key);
 }
 
-void DialogUser::focus(Qt::Key key) const
+void DialogUser::focusBy(const char* label) const
 {
-    QTest::keyClick(target, key, Qt::AltModifier);
+    QTest::keySequence(target.data(), QKeySequence::mnemonic(find<QLabel>(label)->text()));
 }
 
 bool DialogUser::choose(const char* name, const QString& data) const

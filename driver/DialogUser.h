@@ -35,8 +35,8 @@ public:
 
     /** Presses \a key in the named widget. */
     void press(const char* name, Qt::Key key) const;
-    /** Presses Alt and \a key: the label with that mnemonic gives its widget the focus. */
-    void focus(Qt::Key key) const;
+    /** Presses the mnemonic of the named label, which gives its widget the focus. */
+    void focusBy(const char* label) const;
     /** Picks the item with the user data \a data by keys; false when there is none. */
     bool choose(const char* name, const QString& data) const;
     /** Clicks into a channel cell, on its check box if it has one. Does nothing when there is no such cell. */

@@ -36,6 +36,8 @@ DevelopmentHost::DevelopmentHost(const HostSetup& setup)
         mainWindow.say(problem);
         describeSoon();
     });
+    if (ModuleLoader::loadTranslation(&translator, setup.language, loader.fileName()))
+        QCoreApplication::installTranslator(&translator);
 }
 
 bool DevelopmentHost::start()

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QTimer>
+#include <QTranslator>
 
 /** The host: a controller, the main window, and the module in its menu. Needs a QApplication. */
 class DevelopmentHost
@@ -62,6 +63,7 @@ private:
     QString error;
     Backend backend;
     MainWindow mainWindow;
+    QTranslator translator;
     QTimer describing;   // describes once, however much has changed
     ModuleLoader loader; // last, so that the module ends before the objects it uses
 };

@@ -2,9 +2,11 @@
 
 #include "Console.h"
 #include "Faults.h"
+#include "ModuleLoader.h"
 #include "NamedControllers.h"
 
 #include <QCoreApplication>
+#include <QTranslator>
 
 HostOptions::HostOptions(const QString& description, ReplayedController replayed) : replayed(replayed)
 {
@@ -15,6 +17,7 @@ HostOptions::HostOptions(const QString& description, ReplayedController replayed
     parser.addOption({"controller", "Simulates <controller>: a name of --list, or a file (JSON).", "controller"});
     parser.addOption({"protocol", "Sets the controller's protocol to <version>, such as 0.12.7 or 1.23.", "version"});
     parser.addOption({"plugin", "Loads the module from <file>.", "file"});
+    parser.addOption({"language", "Shows the module in <language>, such as de, instead of the user's.", "language"});
     parser.addOption({"fail", "Fails every command in which the regular expression <pattern> is found.", "pattern"});
     parser.addOption({"latency", "Makes each command take <ms> milliseconds longer, 0 to 5000.", "ms", "0"});
     parser.addOption({"record", "Writes every command into <file>.", "file"});
@@ -34,10 +37,10 @@ bool HostOptions::parse(int argc, char* argv[])
         return endWith(QCoreApplication::applicationName() + " " HOST_VERSION, 0);
     if (parser.isSet("list"))
         return listControllers();
-    host.pluginFile = parser.value("plugin");
+    host.pluginFile = parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
     host.record = parser.value("record");
     host.replay = parser.value("replay");
-    return readController() && readProtocol() && readFaults() && checkFiles() && checkReplay();
+    return readController() && readProtocol() && readFaults() && checkFiles() && checkReplay() && readLanguage();
 }
 
 /** Lists name and description of each named controller, unless one of their files is broken. */
@@ -52,6 +55,17 @@ bool HostOptions::listControllers()
     for (const HostSetup& listed : qAsConst(controllers))
         lines.append(listed.controllerName.leftJustified(width) + "  " + listed.state.description);
     return problem.isEmpty() ? endWith(lines.join('\n'), 0) : refuse(problem);
+}
+
+/** The user's first language may lack a translation; one that is asked for may not, unless it is English. */
+bool HostOptions::readLanguage()
+{
+    const QString wanted = parser.value("language");
+    host.language = QLocale(parser.isSet("language") ? wanted : QLocale().uiLanguages().value(0));
+    QTranslator translator;
+    return !parser.isSet("language") || host.language.language() == QLocale::English
+           || ModuleLoader::loadTranslation(&translator, host.language, host.pluginFile)
+           || refuse(QString("--language %1: no " MODULE_NAME "_%1.qm beside the plug-in").arg(wanted));
 }
 
 bool HostOptions::readController()

@@ -43,6 +43,7 @@ private:
     bool endWith(const QString& text, int status);
     bool refuse(const QString& message) { return endWith(message, 2); }
     bool listControllers();
+    bool readLanguage();
     bool readController();
     bool readProtocol();
     bool readFaults();

@@ -2,6 +2,7 @@
 
 #include "ControllerState.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 
 /** What the command line of a host program asks for. */
@@ -9,9 +10,10 @@ struct HostSetup
 {
     QString controllerName = "full"; // the name of a named controller, or of a file
     ControllerState state = ControllerState::builtIn();
-    QString pluginFile;         // empty: the one beside the program
-    QString record;             // the file to record into; empty: none
-    QString replay;             // the recording that answers in place of the simulated controller; empty: none
-    QRegularExpression failing; // commands in which it is found fail
-    int latency = 0;            // milliseconds that each command takes longer
+    QString pluginFile;              // empty: the one beside the program
+    QLocale language = QLocale::c(); // of the module's texts; English where there is no translation
+    QString record;                  // the file to record into; empty: none
+    QString replay;                  // the recording that answers in place of the simulated controller; empty: none
+    QRegularExpression failing;      // commands in which it is found fail
+    int latency = 0;                 // milliseconds that each command takes longer
 };

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTranslator>
 
 #include <algorithm>
 
@@ -49,6 +50,11 @@ ModuleLoader::ModuleLoader(const QString& file) : file(QFileInfo(file).absoluteF
 QString ModuleLoader::defaultFile()
 {
     return QCoreApplication::applicationDirPath() + "/../" MODULE_DIR "/" MODULE_FILE;
+}
+
+bool ModuleLoader::loadTranslation(QTranslator* translator, const QLocale& language, const QString& pluginFile)
+{
+    return translator->load(language, MODULE_NAME, "_", QFileInfo(pluginFile).absolutePath());
 }
 
 bool ModuleLoader::load()

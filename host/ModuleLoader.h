@@ -2,11 +2,13 @@
 
 #include "ModuleInterface.h"
 
+#include <QLocale>
 #include <QPluginLoader>
 
 class BackendVersions;
 class IOManager;
 class QMenuBar;
+class QTranslator;
 
 /**
  * Loads one module plug-in, places its menu entries, and ends it. Call load(), then setParameters(), then
@@ -22,6 +24,12 @@ public:
 
     /** Where the plug-in lies beside the running program, in the build tree as in an installation. */
     static QString defaultFile();
+
+    /**
+     * Loads the module's texts in \a language from beside \a pluginFile, such as SynccardSettingsModule_de.qm. Returns
+     * false when there are none. Install the translator before the module is loaded.
+     */
+    static bool loadTranslation(QTranslator* translator, const QLocale& language, const QString& pluginFile);
 
     QString fileName() const { return file; }
 

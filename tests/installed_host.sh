@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: installed_host.sh BUILD_TREE PREFIX
 # Installs into an empty prefix and starts the installed host elsewhere: it must load the installed plug-in, and
-# list the installed controllers, each of which tests/data/controllers.txt knows.
+# find the installed translation, and list the installed controllers, each of which tests/data/controllers.txt knows.
 set -euo pipefail
 build=$(realpath "$1")
 known=$(sed -n 's/^\([^#]*\) ->.*/\1/p' "$(dirname "$0")/data/controllers.txt" | LC_ALL=C sort -u)
@@ -28,7 +28,7 @@ status=0
 said=$("$prefix/bin/synccard-host" --list 2>&1) || status=$?
 [ "$status $said" = "2 synccard-host: $broken: locked: true or false is expected" ] || fail "$status $said"
 
-"$prefix/bin/synccard-host" --controller locked &
+"$prefix/bin/synccard-host" --controller locked --language de &
 host=$!
 trap 'kill $host 2>/dev/null || true' EXIT
 for ((tries = 0; tries < 300; ++tries)); do

@@ -40,6 +40,7 @@ void TestHost::namesWhatIsWrong()
         {"--replay=a --fail=b",
          "--fail: not with --replay, which fails the commands that failed when they were recorded"},
         {"--replay=/none", "/none: No such file or directory"},
+        {"--language=fr", "--language fr: no SynccardSettingsModule_fr.qm beside the plug-in"},
         {"x", "Unexpected argument 'x'. See --help."},
         {"--protocol=1", "--protocol 1: a version such as 1.23 or 1.23.0 is expected"},
         {"--controller=/none", "/none: No such file or directory"},
@@ -107,7 +108,9 @@ void TestHost::opensControllers()
 
 void TestHost::placesTheEntry()
 {
-    DevelopmentHost host{HostSetup()};
+    HostSetup german;
+    german.language = QLocale("de");
+    DevelopmentHost host(german);
     QMenuBar* bar = host.window().menuBar();
     QVERIFY2(host.start(), qPrintable(host.errorString()));
     QStringList titles;
@@ -115,6 +118,7 @@ void TestHost::placesTheEntry()
     for (const QAction* action : actions)
         titles.append(action->text());
     QCOMPARE(titles, QStringList({"Ho&st", "&Recording", "&Controller", "H&ardware", "&Help"}));
+    QCOMPARE(host.dialog()->windowTitle(), "Synccard-Einstellungen");
 }
 
 QTEST_MAIN(TestHost)

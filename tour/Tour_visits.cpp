@@ -97,7 +97,7 @@ void Tour::raiseFrequency()
         waitForPoll();
         look("direct-settings");
         lookAtWorkbench();
-        user->focus(Qt::Key_F);
+        user->focusBy("label_frequency");
         user->press("doubleSpinBox_frequency", Qt::Key_Up);
         expected.cards.first().frequency += 1.0;
         writeAsShown(&expected);
@@ -111,7 +111,7 @@ void Tour::takeSourceBack()
         const auto* sources = user->find<QComboBox>("comboBox_source");
         const auto* divisor = user->find<QSpinBox>("spinBox_externalDivisor");
         const int shownDivisor = divisor->value();
-        user->focus(Qt::Key_C);
+        user->focusBy("label_source");
         user->press("comboBox_source", sources->currentIndex() + 1 < sources->count() ? Qt::Key_Down : Qt::Key_Up);
         look("external-source");
         CardState& card = expected.cards.first();
@@ -156,7 +156,7 @@ void Tour::choosePredefinedMode()
 {
     visit("Choose a predefined mode", obstacle(expected, Mode), [this] {
         const QString mode = modeToChoose(expected);
-        user->focus(Qt::Key_S);
+        user->focusBy("label_supportedSynccardModes");
         demand(user->choose("comboBox_modes", mode), "the mode cannot be chosen");
         look("predefined-mode");
         expected.activeMode = mode;
