@@ -14,7 +14,7 @@ static QString tr(const char* text)
 
 static QString nameOf(const ModuleInterface* module)
 {
-    return module->get_module_name() + ' ' + module->get_module_version();
+    return module ? module->get_module_name() + ' ' + module->get_module_version() : tr("no module");
 }
 
 static const char* const whyBusy = QT_TRANSLATE_NOOP("DevelopmentHost", "Close the dialog first.");
@@ -129,13 +129,27 @@ bool DevelopmentHost::placeModule()
     return true;
 }
 
+QString DevelopmentHost::identity() const
+{
+    return QString("Development Host %1, %2, controller %3")
+        .arg(HOST_VERSION, nameOf(loader.module()), controllerText());
+}
+
+/** "built-in", "full: Protocol 1.23 with everything", or that it is a recorded one. */
+QString DevelopmentHost::controllerText() const
+{
+    const QString description = controller().state().description;
+    if (isReplaying())
+        return tr("as recorded");
+    return description.isEmpty() ? initial.controllerName : initial.controllerName + ": " + description;
+}
+
 /** Tells the main window what the host is now. */
 void DevelopmentHost::describe()
 {
     const ModuleInterface* module = loader.module();
     if (!module)
         return;
-    const ControllerState& state = controller().state();
     const QString name = isReplaying() ? tr("as recorded") : initial.controllerName;
     QStringList recordings;
     if (recorder().isRecording())
@@ -146,9 +160,7 @@ void DevelopmentHost::describe()
     const QStringList brief = QStringList{name, tr("protocol %1").arg(versions().protocol().toString())} + recordings;
     if (isReplaying())
         recordings.append(replay().progress());
-    const bool isDescribed = !isReplaying() && !state.description.isEmpty();
-    mainWindow.describe({isDescribed ? name + ": " + state.description : name,
-                         versions().protocol().toString() + ", " + versions().hubModel(),
+    mainWindow.describe({controllerText(), versions().protocol().toString() + ", " + versions().hubModel(),
                          nameOf(module) + ", " + loader.fileName(),
                          recordings.isEmpty() ? tr("none") : recordings.join(", "), recordingBrief, brief.join(", ")});
 }

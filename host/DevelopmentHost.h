@@ -39,6 +39,8 @@ public:
     /** Whether a dialog is open or a command is under way, so that the module must neither end nor change hands. */
     bool isBusy();
 
+    /** Names host, module and controller in one line: "Development Host 1.2.7, ..., controller built-in". */
+    QString identity() const;
     /** The module's menu entry. Only after start(). */
     const GuiElement& entry() const { return *loader.module()->get_gui_elements().constFirst(); }
     /** The module's dialog. Only after start(). */
@@ -56,6 +58,7 @@ public:
 private:
     bool reloadModule();
     bool placeModule();
+    QString controllerText() const;
     void describe();
     void about();
 

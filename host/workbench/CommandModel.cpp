@@ -1,5 +1,7 @@
 #include "CommandModel.h"
 
+#include "CommandTraits.h"
+
 #include <QFont>
 
 CommandModel::CommandModel()
@@ -43,13 +45,13 @@ QVariant CommandModel::headerData(int section, Qt::Orientation orientation, int 
 
 void CommandModel::append(const CommandRecord& record)
 {
-    pending.append({QTime::currentTime(), record, {}});
+    pending.append({QTime::currentTime(), record, {}, traitsOf(record.text()).isPolled});
     timer.start();
 }
 
 void CommandModel::appendProblem(const QString& problem)
 {
-    pending.append({QTime::currentTime(), {{}, {}, {}, -1}, problem});
+    pending.append({QTime::currentTime(), {{}, {}, {}, -1}, problem, false});
     timer.start();
 }
 

@@ -20,6 +20,8 @@ public:
 
     CommandModel();
 
+    bool isPoll(int row) const { return rows.at(row).isPoll; }
+
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows.size(); }
     int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : ColumnCount; }
     QVariant data(const QModelIndex& index, int role) const override;
@@ -37,6 +39,7 @@ private:
         QTime time;
         CommandRecord record;
         QString problem; // of a replay, in place of the command
+        bool isPoll;
     };
     void showPending();
 

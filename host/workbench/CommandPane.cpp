@@ -5,7 +5,7 @@
 #include "LogTable.h"
 
 #include <QApplication>
-#include <QClipboard>
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -17,40 +17,39 @@
 
 static constexpr int columnPadding = 24; // pixels
 
-CommandPane::CommandPane(DevelopmentHost* host)
+CommandPane::CommandPane(DevelopmentHost* host) : shown(&commands), table(createTable(host))
 {
-    shown.setSourceModel(&commands);
     shown.setFilterKeyColumn(-1);
     shown.setFilterCaseSensitivity(Qt::CaseInsensitive);
     auto* faults = new FaultPane(host);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(createButtons());
-    layout->addWidget(createTable());
+    layout->addWidget(table);
     layout->addWidget(faults);
     connect(faults, &FaultPane::said, this, &CommandPane::said);
     connect(&host->channel(), &ControllerChannel::executed, &commands, &CommandModel::append);
     connect(&host->replay(), &Replay::differed, &commands, &CommandModel::appendProblem);
 }
 
-QWidget* CommandPane::createTable()
+LogTable* CommandPane::createTable(DevelopmentHost* host)
 {
-    auto* table = new LogTable("commands", tr("Commands"));
-    table->setModel(&shown);
-    table->horizontalHeader()->setSectionResizeMode(CommandModel::CommandColumn, QHeaderView::Stretch);
+    auto* log = new LogTable(host, "commands", tr("Commands"));
+    log->setModel(&shown);
+    log->horizontalHeader()->setSectionResizeMode(CommandModel::CommandColumn, QHeaderView::Stretch);
     const QMap<int, const char*> widest = {{CommandModel::TimeColumn, "00:00:00.000"},
                                            {CommandModel::OperationColumn, "Operation"},
                                            {CommandModel::AnswerColumn, "ttl - \"signal too slow\""},
                                            {CommandModel::ResultColumn, "failed (-1)"},
                                            {CommandModel::DurationColumn, "5000.000 ms"}};
     for (auto sample = widest.begin(); sample != widest.end(); ++sample)
-        table->setColumnWidth(sample.key(), table->fontMetrics().boundingRect(sample.value()).width() + columnPadding);
+        log->setColumnWidth(sample.key(), log->fontMetrics().boundingRect(sample.value()).width() + columnPadding);
     // The table follows the newest row while the user has it scrolled to the end.
-    connect(&shown, &QAbstractItemModel::rowsAboutToBeInserted, table, [table] {
+    connect(&shown, &QAbstractItemModel::rowsAboutToBeInserted, log, [this] {
         const QScrollBar* bar = table->verticalScrollBar();
         if (bar->value() == bar->maximum())
             QMetaObject::invokeMethod(table, "scrollToBottom", Qt::QueuedConnection);
     });
-    return table;
+    return log;
 }
 
 QBoxLayout* CommandPane::createButtons()
@@ -62,35 +61,29 @@ QBoxLayout* CommandPane::createButtons()
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(filterLabel);
     buttons->addWidget(filter);
+    auto* hidePolls = new QCheckBox(tr("&Hide polls"));
+    hidePolls->setChecked(true);
+    connect(hidePolls, &QCheckBox::toggled, &shown, &CommandFilter::hidePolls);
+    buttons->addWidget(hidePolls);
     const auto addButton = [&](const QString& text, auto slot) {
         auto* button = new QPushButton(text);
         connect(button, &QPushButton::clicked, this, slot);
         buttons->addWidget(button);
     };
-    addButton(tr("Co&py"), [this] { QApplication::clipboard()->setText(text()); });
-    addButton(tr("&Save..."), [this] { save(); });
+    addButton(tr("Co&py"), [this] { table->copy(); });
+    addButton(tr("&Save..."), [this] {
+        const QString file = QFileDialog::getSaveFileName(this, tr("Save the commands"), "commands.txt");
+        if (!file.isEmpty())
+            save(file);
+    });
     addButton(tr("Cl&ear"), [this] { commands.clear(); });
     return buttons;
 }
 
-QString CommandPane::text() const
+void CommandPane::save(const QString& file)
 {
-    QString lines;
-    for (int row = 0; row < shown.rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < shown.columnCount(); ++column)
-            cells.append(shown.index(row, column).data().toString());
-        lines += cells.join('\t') + '\n';
-    }
-    return lines;
-}
-
-void CommandPane::save()
-{
-    const QString name = QFileDialog::getSaveFileName(this, tr("Save the commands"), "commands.txt");
-    if (name.isEmpty())
-        return;
-    QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text().toUtf8()) < 0 || !file.commit())
-        emit said(name + ": " + file.errorString());
+    QSaveFile output(file);
+    const bool isSaved =
+        output.open(QIODevice::WriteOnly) && output.write(table->text(false).toUtf8()) >= 0 && output.commit();
+    emit said(isSaved ? tr("Saved in %1").arg(file) : file + ": " + output.errorString());
 }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "CommandModel.h"
+#include "CommandFilter.h"
 
-#include <QSortFilterProxyModel>
 #include <QWidget>
 
 class DevelopmentHost;
+class LogTable;
 class QBoxLayout;
 
 /** The log of all commands: a filter, buttons that copy, save and clear it, and below it the faults. */
@@ -16,17 +16,18 @@ class CommandPane : public QWidget
 public:
     explicit CommandPane(DevelopmentHost* host);
 
+    /** Writes the rows shown into \a file, and says so. A file that cannot be written stays as it was. */
+    void save(const QString& file);
+
 signals:
-    /** Something failed or is in order again; \a text says why, or is empty. */
+    /** \a text says what failed and why, or what has been done; empty: what was said is over. */
     void said(const QString& text);
 
 private:
-    QWidget* createTable();
+    LogTable* createTable(DevelopmentHost* host);
     QBoxLayout* createButtons();
-    void save();
-    /** The rows shown, a line each with tabs between the columns. */
-    QString text() const;
 
     CommandModel commands;
-    QSortFilterProxyModel shown;
+    CommandFilter shown;
+    LogTable* table;
 };

@@ -1,18 +1,22 @@
 #include "ReportPane.h"
 
-#include "ControllerChannel.h"
+#include "DevelopmentHost.h"
 
+#include <QAction>
 #include <QHeaderView>
 #include <QTime>
 
-ReportPane::ReportPane(const ControllerChannel& channel) : LogTable("reports", tr("Error reports"))
+ReportPane::ReportPane(DevelopmentHost* host) : LogTable(host, "reports", tr("Error reports"))
 {
     reports.setHorizontalHeaderLabels(
         {tr("Category"), tr("Tag"), tr("Flag"), tr("Message"), tr("Count"), tr("Last time")});
     setModel(&reports);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(MessageColumn, QHeaderView::Stretch);
-    connect(&channel, &ControllerChannel::reported, this, &ReportPane::add);
+    connect(&host->channel(), &ControllerChannel::reported, this, &ReportPane::add);
+    auto* clearAction = new QAction(tr("Clea&r"), this);
+    connect(clearAction, &QAction::triggered, this, &ReportPane::clear);
+    addAction(clearAction);
 }
 
 void ReportPane::add(const QString& category, const QString& systemTag, int flag, const QString& message)
@@ -27,4 +31,13 @@ void ReportPane::add(const QString& category, const QString& systemTag, int flag
     }
     reports.item(row, CountColumn)->setText(QString::number(reports.item(row, CountColumn)->text().toInt() + 1));
     reports.item(row, TimeColumn)->setText(QTime::currentTime().toString("HH:mm:ss"));
+    emit counted(++number);
+}
+
+void ReportPane::clear()
+{
+    reports.removeRows(0, reports.rowCount());
+    known.clear();
+    number = 0;
+    emit counted(number);
 }

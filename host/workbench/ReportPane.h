@@ -4,8 +4,6 @@
 
 #include <QStandardItemModel>
 
-class ControllerChannel;
-
 /** The error reports that modules send over the channel: equal ones share a row and are counted. */
 class ReportPane : public LogTable
 {
@@ -14,11 +12,17 @@ class ReportPane : public LogTable
 public:
     enum Column { CategoryColumn, TagColumn, FlagColumn, MessageColumn, CountColumn, TimeColumn };
 
-    explicit ReportPane(const ControllerChannel& channel);
+    explicit ReportPane(DevelopmentHost* host);
+
+signals:
+    /** There are \a number reports now, repeated ones included. */
+    void counted(int number);
 
 private:
     void add(const QString& category, const QString& systemTag, int flag, const QString& message);
+    void clear();
 
     QStandardItemModel reports;
     QList<QStringList> known; // category, tag, flag and message of each row
+    int number = 0;
 };

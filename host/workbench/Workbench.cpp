@@ -18,6 +18,7 @@ Workbench::Workbench(DevelopmentHost* host)
     setWindowIcon(host->window().windowIcon());
     resize(initialSize);
     auto* message = new QLabel;
+    message->setObjectName("message");
     message->setTextFormat(Qt::PlainText);
     message->setWordWrap(true);
     connect(&host->replay(), &Replay::differed, message, &QLabel::setText);
@@ -25,7 +26,11 @@ Workbench::Workbench(DevelopmentHost* host)
     connect(commands, &CommandPane::said, message, &QLabel::setText);
     auto* tabs = new QTabWidget;
     tabs->addTab(commands, tr("&Commands"));
-    tabs->addTab(new ReportPane(host->channel()), tr("&Reports"));
+    auto* reports = new ReportPane(host);
+    const int reportsTab = tabs->addTab(reports, tr("&Reports"));
+    connect(reports, &ReportPane::counted, tabs, [tabs, reportsTab](int number) {
+        tabs->setTabText(reportsTab, number == 0 ? tr("&Reports") : tr("&Reports (%1)").arg(number));
+    });
     if (!host->isReplaying()) {
         auto* controller = new ControllerPane(host);
         connect(controller, &ControllerPane::said, message, &QLabel::setText);
