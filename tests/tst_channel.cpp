@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <clocale>
 
@@ -123,6 +124,11 @@ void TestChannel::breaksCommands()
     timer.start();
     QCOMPARE(outcomes(), QByteArray("ynn"));
     QVERIFY(timer.elapsed() >= 60);
+    bool isWaiting = false;
+    QTimer::singleShot(0, this, [&] { isWaiting = faults.isWaiting(); });
+    faults.waitInEventLoop(true);
+    QCOMPARE(outcomes(), QByteArray("ynn"));
+    QVERIFY(isWaiting && !faults.isWaiting());
 }
 
 QTEST_MAIN(TestChannel)

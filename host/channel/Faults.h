@@ -2,11 +2,14 @@
 
 #include "ControllerLink.h"
 
+#include <QObject>
 #include <QRegularExpression>
 
 /** Makes chosen commands fail without reaching the link below, or take longer, to see how a module copes. */
-class Faults : public ControllerLink
+class Faults : public QObject, public ControllerLink
 {
+    Q_OBJECT
+
 public:
     static constexpr int maximumLatency = 5000; // milliseconds
 
@@ -18,16 +21,28 @@ public:
     /** Fails every command in which \a expression is found; an empty one fails none. */
     void failMatching(const QRegularExpression& expression) { pattern = expression; }
     QRegularExpression failing() const { return pattern; }
-    /** Lets each command take \a milliseconds longer, 0 to maximumLatency. It sleeps, so no two commands overlap. */
+    /** Lets each command take \a milliseconds longer, 0 to maximumLatency. */
     void setLatency(int milliseconds) { delay = qBound(0, milliseconds, maximumLatency); }
     int latency() const { return delay; }
+    /** Whether it waits in an event loop, as many real channels do: input and timers arrive then. Else it sleeps. */
+    void waitInEventLoop(bool isOn) { hasEventLoop = isOn; }
+    /** Whether a command waits so. Neither program nor module may end meanwhile, nor the controller change. */
+    bool isWaiting() const { return waits > 0; }
 
     void connected(const ControllerIdentity& controller) override { below->connected(controller); }
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
+signals:
+    /** A command other than a poll begins to wait, or has waited. */
+    void waiting(bool isBegin);
+
 private:
+    void wait(bool isPoll);
+
     ControllerLink* below;
     QRegularExpression pattern;
     int untilFailure = 0;
     int delay = 0;
+    bool hasEventLoop = false;
+    int waits = 0;
 };

@@ -57,6 +57,9 @@ void CommandModel::appendProblem(const QString& problem)
 
 void CommandModel::showPending()
 {
+    timer.stop();
+    if (pending.isEmpty())
+        return;
     beginInsertRows({}, rows.size(), rows.size() + pending.size() - 1);
     rows += pending;
     pending.clear();

@@ -31,6 +31,8 @@ public slots:
     void append(const CommandRecord& record);
     /** Adds a row that says how a replay differed. */
     void appendProblem(const QString& problem);
+    /** Shows the new rows at once. */
+    void showPending();
     void clear();
 
 private:
@@ -41,7 +43,6 @@ private:
         QString problem; // of a replay, in place of the command
         bool isPoll;
     };
-    void showPending();
 
     QVector<Row> rows;
     QVector<Row> pending;

@@ -27,7 +27,15 @@ CommandPane::CommandPane(DevelopmentHost* host) : shown(&commands), table(create
     layout->addWidget(table);
     layout->addWidget(faults);
     connect(faults, &FaultPane::said, this, &CommandPane::said);
-    connect(&host->channel(), &ControllerChannel::executed, &commands, &CommandModel::append);
+    connect(&host->channel(), &ControllerChannel::executed, this, [this, host](const CommandRecord& record) {
+        commands.append(record);
+        if (host->faults().latency() == 0)
+            return;
+        // A slow command is shown as soon as it is answered: no event loop may run until the module has asked them all.
+        commands.showPending();
+        QApplication::sendPostedEvents(table, QEvent::MetaCall); // scrollToBottom()
+        table->viewport()->repaint();
+    });
     connect(&host->replay(), &Replay::differed, &commands, &CommandModel::appendProblem);
 }
 

@@ -2,7 +2,11 @@
 
 #include "DevelopmentHost.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 
@@ -15,7 +19,18 @@ FaultPane::FaultPane(DevelopmentHost* host) : faults(host->faults())
     layout->setContentsMargins({});
     layout->addRow(tr("Fail the &n-th command from now"), createCount(host));
     layout->addRow(tr("Fail commands that &match"), createPattern(host));
-    layout->addRow(tr("Each command &takes longer by"), createLatency());
+    auto* latency = createLatency();
+    auto* latencyRow = new QHBoxLayout;
+    latencyRow->addWidget(latency);
+    auto* eventLoop = new QCheckBox(tr("&wait in an event loop"));
+    connect(eventLoop, &QCheckBox::toggled, this, [this](bool isOn) { faults.waitInEventLoop(isOn); });
+    latencyRow->addWidget(eventLoop, 1);
+    auto* latencyLabel = new QLabel(tr("Each command &takes longer by"));
+    latencyLabel->setBuddy(latency);
+    layout->addRow(latencyLabel, latencyRow);
+    connect(&faults, &Faults::waiting, this, [](bool isBegin) {
+        isBegin ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+    });
 }
 
 QWidget* FaultPane::createCount(DevelopmentHost* host)
