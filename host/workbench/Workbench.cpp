@@ -4,6 +4,7 @@
 #include "ControllerPane.h"
 #include "DevelopmentHost.h"
 #include "ReportPane.h"
+#include "StepCounter.h"
 
 #include <QLabel>
 #include <QTabWidget>
@@ -39,6 +40,11 @@ Workbench::Workbench(DevelopmentHost* host)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs);
     layout->addWidget(message);
+    auto* counter = new StepCounter(host, this);
+    connect(counter, &StepCounter::counted, this, &Workbench::stepCounted);
+    auto* step = new QLabel;
+    connect(this, &Workbench::stepCounted, step, &QLabel::setText);
+    layout->addWidget(step);
     connect(&host->window(), &MainWindow::workbenchWanted, this, [this] {
         show();
         raise();

@@ -1,0 +1,48 @@
+#include "StepCounter.h"
+
+#include "CommandTraits.h"
+#include "DevelopmentHost.h"
+
+#include <QApplication>
+
+StepCounter::StepCounter(DevelopmentHost* host, QObject* parent) : QObject(parent), host(host)
+{
+    pause.setSingleShot(true);
+    connect(&pause, &QTimer::timeout, this, &StepCounter::endPause);
+    connect(&host->channel(), &ControllerChannel::executed, this, &StepCounter::add);
+}
+
+void StepCounter::add(const CommandRecord& record)
+{
+    if (dialog != host->dialog()) { // The host makes a new one when it starts the module again.
+        dialog = host->dialog();
+        connect(dialog, &QDialog::finished, this,
+                [this](int result) { end(result == QDialog::Accepted ? tr("OK") : tr("Cancel")); });
+    }
+    if (traitsOf(record.text()).isPolled)
+        return;
+    microseconds = commands == 0 ? record.microseconds : microseconds + sinceLast.nsecsElapsed() / 1000;
+    sinceLast.start();
+    ++commands;
+    isOpening = !dialog->isVisible();
+    pause.start(0);
+}
+
+/** The event loop runs, which ends an opening or a new source, unless it runs in a command or a message box. */
+void StepCounter::endPause()
+{
+    if (!dialog || host->faults().isWaiting() || (dialog->isVisible() && QApplication::activeModalWidget() != dialog))
+        return;
+    if (isOpening)
+        end(dialog->isVisible() ? tr("Opening") : tr("Opening without a dialog"));
+    commands = 0;
+}
+
+void StepCounter::end(const QString& step)
+{
+    const QString number = commands == 1 ? tr("1 command") : tr("%1 commands").arg(commands);
+    const double milliseconds = commands == 0 ? 0.0 : static_cast<double>(microseconds) / 1000.0;
+    emit counted(tr("%1: %2, %3 ms").arg(step, number, QString::number(milliseconds, 'f', 1)));
+    commands = 0;
+    pause.stop();
+}
