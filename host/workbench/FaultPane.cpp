@@ -1,6 +1,7 @@
 #include "FaultPane.h"
 
 #include "DevelopmentHost.h"
+#include "WheelSafe.h"
 
 #include <QAction>
 #include <QApplication>
@@ -9,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QStyle>
 
 static constexpr int largestCount = 1000;
 static constexpr int latencyStep = 100; // milliseconds
@@ -35,7 +37,7 @@ FaultPane::FaultPane(DevelopmentHost* host) : faults(host->faults())
 
 QWidget* FaultPane::createCount(DevelopmentHost* host)
 {
-    auto* count = new QSpinBox;
+    auto* count = new WheelSafe<QSpinBox>;
     count->setRange(0, largestCount);
     count->setSpecialValueText(tr("none"));
     count->setKeyboardTracking(false);
@@ -55,10 +57,25 @@ QWidget* FaultPane::createPattern(DevelopmentHost* host)
     auto* pattern = new QLineEdit(faults.failing().pattern());
     pattern->setPlaceholderText(tr("regular expression, such as output_delay.*ch02"));
     pattern->setEnabled(!host->isReplaying());
+    const QIcon warning = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    QAction* mark = pattern->addAction(warning, QLineEdit::TrailingPosition);
+    mark->setVisible(false);
+    connect(pattern, &QLineEdit::textChanged, this, [this, pattern, mark](const QString& text) {
+        const QRegularExpression expression(text);
+        const QString error = tr("No regular expression, the former one stays: %1").arg(expression.errorString());
+        const QString reason = expression.isValid() ? QString() : error;
+        if (reason == mark->toolTip())
+            return;
+        mark->setToolTip(reason);
+        mark->setVisible(!reason.isEmpty());
+        pattern->setAccessibleDescription(reason);
+        QFont font = pattern->font();
+        font.setBold(!reason.isEmpty());
+        pattern->setFont(font);
+        emit said(reason);
+    });
     connect(pattern, &QLineEdit::editingFinished, this, [this, pattern] {
         const QRegularExpression expression(pattern->text());
-        const QString error = tr("No regular expression, the former one stays: %1").arg(expression.errorString());
-        emit said(expression.isValid() ? QString() : error);
         if (expression.isValid())
             faults.failMatching(expression);
     });
@@ -67,7 +84,7 @@ QWidget* FaultPane::createPattern(DevelopmentHost* host)
 
 QWidget* FaultPane::createLatency()
 {
-    auto* latency = new QSpinBox;
+    auto* latency = new WheelSafe<QSpinBox>;
     latency->setRange(0, Faults::maximumLatency);
     latency->setSingleStep(latencyStep);
     latency->setKeyboardTracking(false);

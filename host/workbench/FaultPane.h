@@ -14,7 +14,7 @@ public:
     explicit FaultPane(DevelopmentHost* host);
 
 signals:
-    /** \a text says why a regular expression was refused; it is empty once one is taken. */
+    /** \a text says why a regular expression is refused; it is empty once it is in order. */
     void said(const QString& text);
 
 private:
