@@ -1,4 +1,5 @@
 #include "ChoiceDelegate.h"
+#include "CommandPane.h"
 #include "ControllerModel.h"
 #include "DevelopmentHost.h"
 #include "Files.h"
@@ -7,11 +8,15 @@
 
 #include <QAbstractItemModelTester>
 #include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
+#include <QSpinBox>
 #include <QTabBar>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -26,6 +31,7 @@ private slots:
     void replaysWhatItRecorded();
     void editsTheController();
     void staysUsableBesideTheDialog();
+    void logsOpeningAndExit();
 };
 
 namespace {
@@ -200,6 +206,44 @@ void TestWorkbench::staysUsableBesideTheDialog()
     QVERIFY(!host.entry().menu_entry->isEnabled());
     measurement->trigger();
     QVERIFY(host.entry().menu_entry->isEnabled());
+}
+
+void TestWorkbench::logsOpeningAndExit()
+{
+    DevelopmentHost host(setup());
+    Workbench workbench(&host);
+    QVERIFY(host.start());
+    workbench.findChildren<QCheckBox*>().constLast()->click(); // "wait in an event loop"
+    host.faults().setLatency(1);
+    QStringList steps;
+    connect(&workbench, &Workbench::stepCounted, this, [&](auto& text) { steps += text.section(',', 0, 0); });
+    open(host, raiseFrequency);
+    QCOMPARE(steps, QStringList({"Opening: 40 commands", "OK: 14 commands"}));
+    auto* table = workbench.findChild<QTableView*>("commands");
+    QCOMPARE(table->model()->rowCount(), 54);
+    workbench.findChild<QCheckBox*>()->click(); // "Hide polls"
+    QVERIFY(table->model()->rowCount() >= 56);
+    table->setFocus();
+    table->selectRow(1);
+    workbench.show();
+    QVERIFY(QTest::qWaitForWindowActive(&workbench));
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+    const QString copied = R"(^# Development Host .*\nTime\tOperation\t.*\n\S+\tget\tsynccard available\tyes\t.*\n$)";
+    QVERIFY(QRegularExpression(copied).match(QApplication::clipboard()->text()).hasMatch());
+    const QTemporaryDir folder;
+    for (const char* file : {"missing/a", "a"}) {
+        const QString path = folder.filePath(file);
+        workbench.findChild<CommandPane*>()->save(path);
+        QCOMPARE(workbench.findChild<QLabel*>("message")->text(),
+                 *file == 'a' ? "Saved in " + path : path + ": No such file or directory");
+    }
+    auto* latency = workbench.findChildren<QSpinBox*>().constLast();
+    for (const int expected : {0, 100}) {
+        QWheelEvent wheel({}, {}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(latency, &wheel);
+        QCOMPARE(latency->value(), expected);
+        latency->setFocus();
+    }
 }
 
 QTEST_MAIN(TestWorkbench)
