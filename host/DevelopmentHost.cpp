@@ -93,6 +93,8 @@ QString DevelopmentHost::rewindReplay()
 
 QString DevelopmentHost::changeState(const ControllerState& state)
 {
+    if (channel().isBusy())
+        return tr("a command is under way; try again when it is answered");
     const VersionInfo direct(0, 13, -1);
     const bool isOtherPath = (state.protocol < direct) != (versions().protocol() < direct);
     if (isOtherPath && isBusy())

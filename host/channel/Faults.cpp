@@ -20,11 +20,9 @@ void Faults::wait(bool isPoll)
     if (!isPoll)
         emit waiting(true);
     if (hasEventLoop) {
-        ++waits;
         QEventLoop loop;
         QTimer::singleShot(delay, Qt::PreciseTimer, &loop, &QEventLoop::quit);
         loop.exec();
-        --waits;
     } else {
         QThread::msleep(static_cast<unsigned long>(delay));
     }

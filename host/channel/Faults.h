@@ -26,8 +26,6 @@ public:
     int latency() const { return delay; }
     /** Whether it waits in an event loop, as many real channels do: input and timers arrive then. Else it sleeps. */
     void waitInEventLoop(bool isOn) { hasEventLoop = isOn; }
-    /** Whether a command waits so. Neither program nor module may end meanwhile, nor the controller change. */
-    bool isWaiting() const { return waits > 0; }
 
     void connected(const ControllerIdentity& controller) override { below->connected(controller); }
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
@@ -44,5 +42,4 @@ private:
     int untilFailure = 0;
     int delay = 0;
     bool hasEventLoop = false;
-    int waits = 0;
 };

@@ -7,10 +7,7 @@
 static constexpr int initialColumnWidth = 240; // pixels
 
 ControllerPane::ControllerPane(DevelopmentHost* host)
-    : model(&host->controller(), [host](const ControllerState& state) {
-          const bool isWaiting = host->faults().isWaiting();
-          return isWaiting ? tr("a command is under way, try again when it is answered") : host->changeState(state);
-      })
+    : model(&host->controller(), [host](const ControllerState& state) { return host->changeState(state); })
 {
     setModel(&model);
     setAccessibleName(tr("Simulated controller"));

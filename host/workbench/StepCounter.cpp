@@ -31,7 +31,7 @@ void StepCounter::add(const CommandRecord& record)
 /** The event loop runs, which ends an opening or a new source, unless it runs in a command or a message box. */
 void StepCounter::endPause()
 {
-    if (!dialog || host->faults().isWaiting() || (dialog->isVisible() && QApplication::activeModalWidget() != dialog))
+    if (!dialog || host->channel().isBusy() || (dialog->isVisible() && QApplication::activeModalWidget() != dialog))
         return;
     if (isOpening)
         end(dialog->isVisible() ? tr("Opening") : tr("Opening without a dialog"));
