@@ -5,6 +5,7 @@
 #include "SimulatedController.h"
 
 #include <QElapsedTimer>
+#include <QMap>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -17,35 +18,20 @@ class TestChannel : public QObject
     Q_OBJECT
 
 private slots:
-    void formatsWithoutLocale();
-    void refusesLongAnswers();
-    void readsRecordings_data();
+    void initTestCase();
+    void refusesAnswers();
     void readsRecordings();
     void breaksCommands();
 };
 
-void TestChannel::formatsWithoutLocale()
+/** The second run of each program must really have a decimal comma. */
+void TestChannel::initTestCase()
 {
-    if (qEnvironmentVariableIsSet("LOCPATH"))
-        QCOMPARE(QByteArray(localeconv()->decimal_point), QByteArray(","));
-    SimulatedController controller(ControllerState::builtIn());
-    ControllerChannel channel(&controller);
-    QByteArray command;
-    connect(&channel, &ControllerChannel::executed, this,
-            [&](const CommandRecord& record) { command = record.command; });
-    QCOMPARE(channel.setParameter("synccard internal_frequency d%2.2d %.6f", 1, 59.94), 0);
-    QCOMPARE(command, QByteArray("synccard internal_frequency d01 59.940000"));
-    double frequency = 0.0;
-    QCOMPARE(channel.getParameterDouble(&frequency, "synccard internal_frequency d01"), 0);
-    QCOMPARE(frequency, 59.94);
-    int number = 7;
-    QVERIFY(channel.getParameterInt(&number, "synccard output d01") != 0);
-    bool flag = false;
-    QVERIFY(channel.getParameterBool(&flag, "synccard output d01") != 0);
+    QCOMPARE(*localeconv()->decimal_point, qEnvironmentVariableIsSet("LOCPATH") ? ',' : '.');
 }
 
-/** An answer that just fits is taken whole, one character more fails. */
-void TestChannel::refusesLongAnswers()
+/** A text that just fits is taken whole, one character more fails; so does a text in place of a number or flag. */
+void TestChannel::refusesAnswers()
 {
     ControllerState state = ControllerState::builtIn();
     SimulatedController controller(state);
@@ -60,47 +46,40 @@ void TestChannel::refusesLongAnswers()
         QCOMPARE(channel.getParameter(answer, "synccard output d01") == 0, fits);
         QVERIFY(!fits || answer == state.cards[0].output);
     }
+    int number = 0;
+    bool flag = false;
+    QVERIFY(channel.getParameterInt(&number, "synccard source d01") != 0);
+    QVERIFY(channel.getParameterBool(&flag, "synccard source d01") != 0);
 }
 
-void TestChannel::readsRecordings_data()
-{
-    QTest::addColumn<QByteArray>("lines");
-    QTest::addColumn<QString>("problem");
-    const QByteArray start = "synccard recording 1\n0.000 connect 1.23.0 X -> \n";
-    const QString form = R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";
-    QTest::newRow("whole") << start + "# note\r\n\n0.1 set a b ->\r\n0.2 get c failed\n0.3 get \\-> -> \\\\ \\n\\r\n"
-                           << "";
-    QTest::newRow("something else") << QByteArray("{}\n") << "1: this is no recording";
-    QTest::newRow("empty") << QByteArray("synccard recording 1\n") << "2: it does not begin with a \"connect\"";
-    QTest::newRow("not begun") << QByteArray("synccard recording 1\n#\n0 get a -> b\n0 get a -> b\n")
-                               << "3: it does not begin with a \"connect\"";
-    QTest::newRow("Latin-1") << start + "0.1 get a -> \xE4\n"
-                             << "3: a character that is not Latin-1, or no UTF-8";
-    QTest::newRow("escape") << start + "0.1 get a -> Cam\\era\n"
-                            << R"(3: an unknown "\"; the character itself is written "\\")";
-    QTest::newRow("no answer") << start + "0.1 get a\n"
-                               << "3: " + form;
-    QTest::newRow("time") << start + "x get a -> b\n"
-                          << "3: seconds are expected, \"x\" is found";
-    QTest::newRow("operation") << start + "1 put a -> b\n"
-                               << "3: unknown operation \"put\"";
-    QTest::newRow("version") << start.left(20) + "\n0 connect 1 X -> \n"
-                             << "2: a protocol version such as 1.23.0 is expected behind \"connect\"";
-}
-
+/** A whole recording, and damaged ones with what is wrong. */
 void TestChannel::readsRecordings()
 {
-    QFETCH(QByteArray, lines);
-    QFETCH(QString, problem);
-    QTemporaryDir folder;
+    const QByteArray start = "synccard recording 1\n0.000 connect 1.23.0 X -> \n";
+    const QByteArray form = R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";
+    const QMap<QByteArray, QByteArray> problems = {
+        {start + "# note\r\n\n0.1 set a b ->\r\n0.2 get c failed\n0.3 get \\-> -> \\\\ \\n\\r\n", ""},
+        {"{}\n", ":1: this is no recording"},
+        {"synccard recording 1\n", ":2: it does not begin with a \"connect\""},
+        {"synccard recording 1\n#\n0 get a -> b\n0 get a -> b\n", ":3: it does not begin with a \"connect\""},
+        {"synccard recording 1\n0 connect 1 X -> \n",
+         ":2: a protocol version such as 1.23.0 is expected behind \"connect\""},
+        {start + "0.1 get a -> \xE4\n", ":3: a character that is not Latin-1, or no UTF-8"},
+        {start + "0.1 get a -> Cam\\era\n", R"(:3: an unknown "\"; the character itself is written "\\")"},
+        {start + "0.1 get a\n", ":3: " + form},
+        {start + "x get a -> b\n", ":3: seconds are expected, \"x\" is found"},
+        {start + "1 put a -> b\n", ":3: unknown operation \"put\""}};
+    const QTemporaryDir folder;
     const QString file = folder.filePath("a");
-    writeFile(file, lines);
-    QVector<RecordedLine> read;
-    QString found;
-    QCOMPARE(readRecording(file, &read, &found), problem.isEmpty());
-    QCOMPARE(found, problem.isEmpty() ? QString() : file + ':' + problem);
-    if (problem.isEmpty())
-        QCOMPARE(read.last().toLine(1234), QByteArray("1.234 get \\-> -> \\\\ \\n\\r\n"));
+    for (auto problem = problems.begin(); problem != problems.end(); ++problem) {
+        writeFile(file, problem.key());
+        QVector<RecordedLine> lines;
+        QString found;
+        QCOMPARE(readRecording(file, &lines, &found), problem->isEmpty());
+        QCOMPARE(found, problem->isEmpty() ? QString() : file + *problem);
+        if (problem->isEmpty())
+            QCOMPARE(lines.last().toLine(1234), QByteArray("1.234 get \\-> -> \\\\ \\n\\r\n"));
+    }
 }
 
 void TestChannel::breaksCommands()

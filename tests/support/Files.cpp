@@ -7,14 +7,20 @@ void addRows(const char* name)
 {
     QTest::addColumn<QByteArray>("left");
     QTest::addColumn<QByteArray>("right");
-    QFile file(QString(DATA_DIR "/") + name);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArrayList lines = file.readAll().split('\n');
+    const QByteArrayList lines = readFile(QString(DATA_DIR "/") + name).split('\n');
     for (const QByteArray& line : lines) {
         const int arrow = line.indexOf(" ->");
         if (!line.startsWith('#') && arrow > 0)
             QTest::newRow(line.left(arrow)) << line.left(arrow).replace("\\n", "\n") << line.mid(arrow + 4);
     }
+}
+
+QByteArray readFile(const QString& name)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s: %s", qPrintable(name), qPrintable(file.errorString()));
+    return file.readAll();
 }
 
 void writeFile(const QString& file, const QByteArray& text)

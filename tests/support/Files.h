@@ -5,5 +5,8 @@
 /** Rows of two texts for a test with the parameters "left" and "right", from a file of tests/data: "left -> right". */
 void addRows(const char* name);
 
+/** The whole file; ends the program when it cannot be read. */
+QByteArray readFile(const QString& name);
+
 /** Writes \a text into \a file; fails the test when it cannot. */
 void writeFile(const QString& file, const QByteArray& text);
