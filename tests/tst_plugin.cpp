@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
-#include <QHeaderView>
 #include <QImage>
 #include <QJsonObject>
 #include <QLabel>
@@ -12,7 +11,7 @@
 #include <QTableWidget>
 #include <QTranslator>
 
-/** The plug-in as a host meets it: contract, identity, menu entry, form, texts. */
+/** The plug-in as a host meets it: contract, identity, menu entry, texts. */
 class TestPlugin : public QObject
 {
     Q_OBJECT
@@ -22,7 +21,6 @@ private slots:
     void offersOneEntry();
     void takesParameters();
     void leavesNothing();
-    void hasForm();
     void speaksGerman();
 };
 
@@ -58,45 +56,25 @@ QStringList textsOfSession()
     return texts << module.find<QLabel>("label_error")->text();
 }
 
-/** Sizes in pixels; "-" is the width that is left for the last column shown. */
-QString layoutOf(const QTableWidget* table)
-{
-    const QHeaderView* header = table->horizontalHeader();
-    QString columns;
-    int last = table->columnCount() - 1;
-    while (table->isColumnHidden(last))
-        --last;
-    for (int column = 0; column < table->columnCount(); ++column)
-        columns += ' ' + (column == last ? "-" : QString::number(table->columnWidth(column)));
-    return QString("%1 high, rows %2, columns%3, %4%5%6")
-        .arg(table->maximumHeight())
-        .arg(table->rowHeight(0))
-        .arg(columns, header->stretchLastSection() ? "stretched" : "not stretched",
-             header->sectionsClickable() ? ", clickable" : "",
-             table->verticalHeader()->isHidden() ? "" : ", row headers");
-}
-
 } // namespace
 
 void TestPlugin::hasIdentity()
 {
     LoadedModule module;
     QPluginLoader loader(module.loader.fileName());
-    const QJsonObject data = loader.metaData();
-    QCOMPARE(data.value("IID").toString(), MODULE_IDENTIFIER);
-    QCOMPARE(data.value("className").toString(), "SynccardSettingsModule");
-    QCOMPARE(data.value("debug").toBool(true), false);
-    QCOMPARE(data.value("version").toInt(), QT_VERSION & 0xFFFF00); // without the patch number
+    const QJsonObject expected = {{"IID", MODULE_IDENTIFIER},
+                                  {"className", "SynccardSettingsModule"},
+                                  {"debug", false},
+                                  {"version", QT_VERSION & 0xFFFF00}}; // without the patch number
+    QJsonObject data = loader.metaData();
+    data.remove("archreq"); // of the processor
+    QCOMPARE(data, expected);
     QObject* object = loader.instance();
-    QVERIFY(object);
-    QCOMPARE(object, loader.instance());
     QCOMPARE(object->qt_metacast("ModuleInterface"), object->qt_metacast("org.zorvan.zorvan2.gui.Module/0.2.0"));
     QCOMPARE(static_cast<ModuleInterface*>(object->qt_metacast("ModuleInterface")), module.loader.module());
     QCOMPARE(module.loader.module()->get_module_name(), "GUI Synccard Settings");
     QCOMPARE(module.loader.module()->get_module_version(), "v1.2.7");
-    QCOMPARE(QFile(":/images/lock.png").size(), 1241);
     QCOMPARE(QImage(":/images/lock.png").size(), QSize(48, 48));
-    QCOMPARE(QFile(":/images/synccard.png").size(), 22652);
     QCOMPARE(QImage(":/images/synccard.png").size(), QSize(103, 104));
 }
 
@@ -173,39 +151,6 @@ void TestPlugin::leavesNothing()
         QVERIFY(QApplication::topLevelWidgets() == QWidgetList{&other});
         QVERIFY(!QFile::exists(":/images/lock.png"));
     }
-}
-
-void TestPlugin::hasForm()
-{
-    LoadedModule module;
-    QCOMPARE(module.dialog()->objectName(), "synccarddialog");
-    for (const char* name : {"label_inputSource", "label_inputFrequency"})
-        QCOMPARE(module.find<QLabel>(name)->textFormat(), Qt::PlainText);
-    for (const char* name : {"tableWidget_synccards", "tableWidget_channels"})
-        QCOMPARE(module.find<QTableWidget>(name)->columnWidth(0), 200);
-    module.open([&] {
-        const QMap<Qt::Key, const char*> mnemonics = {{Qt::Key_S, "comboBox_modes"},
-                                                      {Qt::Key_C, "comboBox_source"},
-                                                      {Qt::Key_F, "doubleSpinBox_frequency"},
-                                                      {Qt::Key_O, "comboBox_output"}};
-        for (auto key = mnemonics.begin(); key != mnemonics.end(); ++key) {
-            QTest::keyClick(module.dialog(), key.key(), Qt::AltModifier);
-            QCOMPARE(module.dialog()->focusWidget()->objectName(), key.value());
-        }
-        auto* channels = module.find<QTableWidget>("tableWidget_channels");
-        auto* cards = module.find<QTableWidget>("tableWidget_synccards");
-        QCOMPARE(layoutOf(channels), "110 high, rows 20, columns 110 110 - 0, stretched");
-        QCOMPARE(layoutOf(cards), "100 high, rows 28, columns 165 -, stretched");
-        QVERIFY(channels->isColumnHidden(3));
-        QCOMPARE(channels->item(0, 0)->flags(), Qt::ItemIsEnabled);
-        QCOMPARE(channels->item(0, 1)->textAlignment(), int(Qt::AlignRight | Qt::AlignVCenter));
-        QCOMPARE(cards->item(0, 1)->textAlignment(), int(Qt::AlignCenter));
-        QCOMPARE(cards->selectionMode(), QAbstractItemView::NoSelection);
-        QCOMPARE(channels->selectionMode(), QAbstractItemView::NoSelection);
-        QCOMPARE(cards->editTriggers(), QAbstractItemView::NoEditTriggers);
-        QCOMPARE(module.dialog()->minimumSize(), module.dialog()->maximumSize());
-        module.user().leave("Escape");
-    });
 }
 
 /** In German each translation stands where its source text stood. What is the same is listed here. */

@@ -6,11 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-namespace {
-
-constexpr int pollMilliseconds = 1;
-
-} // namespace
+static constexpr int pollMilliseconds = 1;
 
 void failOnWarnings()
 {
@@ -50,16 +46,17 @@ LoadedModule::~LoadedModule()
     delete parent;
 }
 
+/** Closes the message box that is open, after what may happen while it is. */
 void LoadedModule::closeBox()
 {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    const QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box)
         return;
-    if (insteadOfClosingBox)
-        return std::exchange(insteadOfClosingBox, nullptr)();
     const bool isWarning = box->icon() == QMessageBox::Critical && box->standardButtons() == QMessageBox::Ok;
     boxes.append((isWarning ? "" : "not critical: ") + box->windowTitle().toUtf8() + ": " + box->text().toUtf8());
-    QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+    link.during(boxes.last());
+    if (box)
+        QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
 }
 
 int LoadedModule::open(const DialogUser::Steps& steps) const

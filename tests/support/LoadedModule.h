@@ -12,8 +12,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <functional>
-
 /** The built plug-in, loaded as a host loads it, on a scripted controller. Every Qt warning fails the test. */
 class LoadedModule
 {
@@ -51,8 +49,7 @@ public:
     QPointer<QWidget> parent;
     ModuleLoader loader;
     GuiElement* element = nullptr;
-    QByteArrayList boxes;                                // "title: text" of each message box shown, then closed by OK
-    std::function<void()> insteadOfClosingBox = nullptr; // run while a box is open
+    QByteArrayList boxes; // "title: text" of each message box shown, then closed by OK
 
 private:
     void closeBox();

@@ -1,16 +1,13 @@
 #include "ScriptedLink.h"
 
 #include "ControllerChannel.h"
-
-#include <QFile>
+#include "Files.h"
 
 ScriptedLink::ScriptedLink()
 {
-    QFile file(DATA_DIR "/standard-controller.txt");
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s", qPrintable(file.errorString()));
-    while (!file.atEnd())
-        script(file.readLine().replace('\n', ""));
+    const QByteArrayList changes = readFile(DATA_DIR "/standard-controller.txt").split('\n');
+    for (const QByteArray& change : changes)
+        script(change);
 }
 
 void ScriptedLink::script(QByteArray change, int line)

@@ -45,7 +45,7 @@ public:
 
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
-    /** Called in each command and in each report with its text, as a channel that runs an event loop would. */
+    /** Called in each command, report and message box with its text, as what runs an event loop would. */
     std::function<void(const QByteArray& text)> during = [](const QByteArray&) {};
 
     Answers answers;

@@ -1,6 +1,7 @@
 #include "SessionFile.h"
 
-#include <QFile>
+#include "Files.h"
+
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
@@ -29,14 +30,13 @@ QString Session::problem(const QString& what, int line) const
 
 SessionFile::SessionFile(const QString& path, const QByteArrayList& keys) : file(QFileInfo(path).fileName().toUtf8())
 {
-    QFile input(path);
-    if (!input.open(QIODevice::ReadOnly))
-        qFatal("%s: %s", qPrintable(path), qPrintable(input.errorString()));
-    for (number = 1; !input.atEnd(); ++number) {
-        const QByteArray line = input.readLine().replace('\n', "").replace("\\s", " ").replace("\\t", "\t");
+    QByteArray all = readFile(path);
+    const QByteArrayList lines = all.replace("\\s", " ").replace("\\t", "\t").replace("\\e", "\xE4").split('\n');
+    for (const QByteArray& line : lines) {
+        ++number;
         const int blank = (line + ' ').indexOf(' ');
         if (!line.isEmpty() && !line.startsWith('#'))
-            readLine(line.left(blank), line.mid(blank + 1).replace("\\e", "\xE4"), keys);
+            readLine(line.left(blank), line.mid(blank + 1), keys);
     }
 }
 
@@ -54,27 +54,36 @@ void SessionFile::readLine(const QByteArray& key, const QByteArray& value, const
     } else {
         demand(keys.contains(key), "key " + unknown(key, keys + QByteArrayList{"case", "list"}));
         demand(!sessions.isEmpty(), "no case has begun");
-        const QByteArrayList texts = expanded(value);
-        for (int i = 0; i < texts.size() && !sessions.isEmpty(); ++i)
-            sessions.last().lines[key].append({texts.at(i), number});
+        const QByteArrayList texts = sessions.isEmpty() ? QByteArrayList() : expanded(value);
+        for (const QByteArray& text : texts)
+            sessions.last().lines[key].append({text, number});
     }
 }
 
-/** The line itself, or the lines that it stands for: a range of numbers, or a list with its parameters filled in. */
+/** The line itself, or the lines that it stands for: a range of numbers, or a list. */
 QByteArrayList SessionFile::expanded(const QByteArray& text)
 {
     static const QRegularExpression range(R"(\[(\d\d)-(\d\d)\])");
     const QRegularExpressionMatch match = range.match(text);
+    if (!match.hasMatch() && !text.startsWith('@'))
+        return {text};
+    QByteArrayList found = match.hasMatch() ? QByteArrayList() : listed(text.mid(1));
+    for (int i = match.captured(1).toInt(); match.hasMatch() && i <= match.captured(2).toInt(); ++i)
+        found += QByteArray(text).replace(match.captured().toUtf8(), QByteArray::number(100 + i).mid(1));
     QByteArrayList lines;
-    for (int i = match.captured(1).toInt(); i <= match.captured(2).toInt() && match.hasMatch(); ++i)
-        lines += expanded(QByteArray(text).replace(match.captured().toUtf8(), QByteArray::number(100 + i).mid(1)));
-    if (match.hasMatch() || !text.startsWith('@') || text == "@nothing")
-        return text == "@nothing" || match.hasMatch() ? lines : QByteArrayList{text};
-    const QByteArray name = text.mid(1, text.indexOf(": ") - 1);
-    const QByteArrayList arguments = text.mid(name.size() + 3).split('|');
+    for (const QByteArray& line : qAsConst(found))
+        lines += expanded(line);
+    return lines;
+}
+
+/** The lines of the list that \a call names, "NAME: A|B", with its parameters filled in. */
+QByteArrayList SessionFile::listed(const QByteArray& call)
+{
+    const QByteArray name = call.mid(0, call.indexOf(": "));
+    const QByteArrayList arguments = call == name ? QByteArrayList() : call.mid(name.size() + 2).split('|');
     demand(lists.contains(name), "list " + unknown(name, lists.keys()));
     QByteArray all = lists.value(name).join('\n');
-    for (int i = 0; i < arguments.size() && text != '@' + name; ++i) {
+    for (int i = 0; i < arguments.size(); ++i) {
         const QByteArray parameter = '%' + QByteArray::number(i + 1);
         demand(all.contains(parameter), "\"" + name + "\" does not use parameter " + parameter);
         demand(!arguments.at(i).isEmpty(), "parameter " + parameter + " of \"" + name + "\" is empty");
@@ -82,10 +91,7 @@ QByteArrayList SessionFile::expanded(const QByteArray& text)
     }
     static const QRegularExpression unfilled("%\\d");
     demand(!QString(all).contains(unfilled), "\"" + name + "\" needs more parameters");
-    const QByteArrayList filled = all.split('\n');
-    for (const QByteArray& line : filled)
-        lines += expanded(line);
-    return lines;
+    return all.split('\n');
 }
 
 void SessionFile::demand(bool condition, const QString& otherwise)
@@ -99,9 +105,8 @@ void addSessions(const char* name, const QByteArrayList& keys)
     QTest::addColumn<Session>("session");
     const SessionFile file(QString(DATA_DIR "/") + name, keys);
     QVERIFY2(file.mistakes.isEmpty(), qPrintable(file.mistakes.join('\n')));
-    for (const Session& all : file.sessions) {
-        Session session = all;
-        const SessionLines protocols = all.lines.value("protocol", {{"1.23", 0}});
+    for (Session session : file.sessions) {
+        const SessionLines protocols = session.lines.value("protocol", {{"1.23", 0}});
         for (const SessionLine& protocol : protocols) {
             session.lines["protocol"] = {protocol};
             QTest::newRow(session.name + ", " + protocol.text) << session;

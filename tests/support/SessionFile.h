@@ -43,6 +43,7 @@ public:
 private:
     void readLine(const QByteArray& key, const QByteArray& value, const QByteArrayList& keys);
     QByteArrayList expanded(const QByteArray& text);
+    QByteArrayList listed(const QByteArray& call);
     void demand(bool condition, const QString& otherwise);
 
     QByteArray file;

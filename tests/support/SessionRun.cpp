@@ -1,8 +1,12 @@
 #include "SessionRun.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QRegularExpression>
 #include <QTableWidget>
+
+#include <functional>
 
 namespace {
 
@@ -15,39 +19,31 @@ QString unknownWidget(const LoadedModule& module, const QByteArray& name)
     return "widget " + unknown(name, names);
 }
 
-bool actOnWidget(const LoadedModule& module, const QByteArrayList& words)
+Qt::Key keyOf(const QByteArray& name)
 {
-    auto* widget = module.find<QWidget>(words.at(1));
-    auto* box = qobject_cast<QComboBox*>(widget);
-    const QByteArray argument = words.mid(2).join(' ');
-    if (!widget->isVisible() || !widget->isEnabled())
-        return false;
-    if (words.at(0) == "choose")
-        return module.user().choose(words.at(1), argument);
-    if (words.at(0) == "key")
-        QTest::keyClick(widget, Qt::Key(QKeySequence(QString(argument))[0]));
-    else
-        box->setCurrentIndex(-1);
-    return true;
+    return Qt::Key(QKeySequence(QString(name))[0]);
 }
 
-bool actOnCell(const LoadedModule& module, const QByteArrayList& words)
+/** Walks once round the dialog by \a key: each control that is enabled is reached once, and has a spoken name. */
+QString walk(const QDialog* dialog, Qt::Key key)
 {
-    auto* table = module.find<QTableWidget>("tableWidget_channels");
-    const int row = words.value(1).toInt();
-    const int column = words.value(2).toInt();
-    QTableWidgetItem* item = table->item(row, words.at(0) == "delay" ? 1 : column);
-    if (!item)
-        return false;
-    if (words.at(0) == "delay")
-        DialogUser::type(module.user().editDelay(row), words.value(2));
-    else if (words.at(0) == "click")
-        module.user().clickCell(row, column);
-    else if (words.at(0) == "text")
-        item->setText(words.value(3));
-    else
-        delete table->takeItem(row, column);
-    return true;
+    QStringList expected;
+    QStringList reached;
+    const QList<QWidget*> widgets = dialog->findChildren<QWidget*>(QRegularExpression("^(?!qt_)"));
+    for (const QWidget* widget : widgets) {
+        const bool takesFocus = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+        if (takesFocus && widget->isVisible() && widget->isEnabled())
+            expected.append(widget->objectName());
+    }
+    for (int i = 0; i < expected.size(); ++i) {
+        QWidget* focus = dialog->focusWidget();
+        const QString spoken = QAccessible::queryAccessibleInterface(focus)->text(QAccessible::Name);
+        reached.append(focus->objectName() + (spoken.isEmpty() ? " without a name" : ""));
+        QTest::keyClick(focus, key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+    }
+    expected.sort();
+    reached.sort();
+    return reached == expected ? QString() : "reached " + reached.join(' ') + " instead of " + expected.join(' ');
 }
 
 } // namespace
@@ -57,43 +53,69 @@ QString act(LoadedModule& module, const SessionLine& line)
     static const QByteArrayList onWidgets = {"key", "choose", "deselect"};
     static const QByteArrayList onCells = {"click", "delay", "text", "take"};
     const QByteArrayList words = line.text.split(' ');
-    const QString undone = '"' + line.text + "\" cannot be done";
-    if (onWidgets.contains(words.at(0)) && !module.find<QWidget>(words.value(1)))
+    const QByteArray& action = words.first();
+    const int row = words.value(1).toInt();
+    const int column = action == "delay" ? 1 : words.value(2).toInt();
+    const DialogUser user = module.user();
+    QDialog* dialog = module.dialog();
+    auto* widget = module.find<QWidget>(words.value(1));
+    auto* table = module.find<QTableWidget>("tableWidget_channels");
+    const auto run = [&](const char* slot) { QMetaObject::invokeMethod(dialog, slot); };
+    const auto leaveHidden = [&] { run(words.value(1) == "OK" ? "accept" : "reject"); };
+    bool isDone = true;
+    QString problem;
+    const QMap<QByteArray, std::function<void()>> actions = {
+        {"key", [&] { QTest::keyClick(widget, keyOf(words.value(2))); }},
+        {"choose", [&] { isDone = user.choose(words.at(1), words.mid(2).join(' ')); }},
+        {"deselect", [&] { qobject_cast<QComboBox*>(widget)->setCurrentIndex(-1); }},
+        {"click", [&] { user.clickCell(row, column); }},
+        {"delay", [&] { DialogUser::type(user.editDelay(row), words.value(2), keyOf(words.value(3, "Tab"))); }},
+        {"text", [&] { table->item(row, column)->setText(words.value(3)); }},
+        {"take", [&] { delete table->takeItem(row, column); }},
+        {"walk", [&] { problem = walk(dialog, keyOf(words.value(1))); }},
+        {"poll", [&] { run("poll_input_frequency"); }},
+        {"answer", [&] { module.link.script(line.text.mid(action.size() + 1), line.number); }},
+        {"leave", [&] { dialog->isVisible() ? user.leave(words.value(1)) : leaveHidden(); }},
+        {"done", [&] { dialog->done(words.value(1).toInt()); }},
+        {"activate", [&] { module.element->menu_entry->trigger(); }},
+        {"delete-parent", [&] { delete module.parent; }},
+        {"exit-module", [&] { module.loader.module()->exit_module(); }}};
+    if (!actions.contains(action))
+        return "action " + unknown(action, actions.keys());
+    if (onWidgets.contains(action) && !widget)
         return unknownWidget(module, words.value(1));
-    if (onWidgets.contains(words.at(0)))
-        return actOnWidget(module, words) ? QString() : undone;
-    if (onCells.contains(words.at(0)))
-        return actOnCell(module, words) ? QString() : undone;
-    if (words.at(0) == "leave" && module.dialog()->isVisible())
-        module.user().leave(words.value(1));
-    else if (words.at(0) == "leave")
-        QMetaObject::invokeMethod(module.dialog(), words.value(1) == "OK" ? "accept" : "reject");
-    else if (words.at(0) == "done")
-        module.dialog()->done(words.value(1).toInt());
-    else if (words.at(0) == "activate")
-        module.element->menu_entry->trigger();
-    else if (words.at(0) == "answer")
-        module.link.script(line.text.mid(7), line.number);
-    else if (line.text != "poll")
-        return "action "
-               + unknown(words.at(0),
-                         onWidgets + onCells + QByteArrayList{"answer", "poll", "leave", "done", "activate"});
-    else
-        QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
-    return {};
+    const bool isPossible = onWidgets.contains(action) ? widget->isVisible() && widget->isEnabled()
+                                                       : !onCells.contains(action) || table->item(row, column);
+    if (isPossible)
+        actions.value(action)();
+    return isPossible && isDone ? problem : '"' + line.text + "\" cannot be done";
+}
+
+QByteArrayList SessionRun::keys()
+{
+    QByteArrayList all;
+    for (const char* key :
+         {"protocol", "answer", "asks", "unasked", "shows", "report", "stops", "later", "user", "after", "sends", "ok",
+          "cancel", "sends-report", "ok-report", "cancel-report", "ok-box", "during", "leaves"})
+        all += QByteArrayList{key, QByteArray("again-") + key};
+    return all;
 }
 
 QString SessionRun::problemOf(const Session& session)
 {
-    QSet<int> asked;
     const QByteArrayList ways = {"OK", "Cancel", "Escape", "close"};
+    const auto again = session.lines.lowerBound("again");
+    QSet<int> asked;
     for (const QByteArray& way : session.lines.contains("leaves") ? QByteArrayList{session.text("leaves")} : ways) {
-        const SessionRun run(session, way);
+        SessionRun run(session);
+        run.open("", way);
+        if (again != session.lines.end() && again.key().startsWith("again"))
+            run.open("again-", session.text("again-leaves", "OK"));
         if (!run.problem.isEmpty())
             return run.problem;
         asked += run.module.link.askedLines;
     }
-    for (const char* key : {"answer", "later", "again", "user", "again-user"}) {
+    for (const char* key : {"answer", "later", "user", "again-answer", "again-later", "again-user"}) {
         for (const SessionLine& line : session.lines.value(key)) {
             const bool isAnswer = line.text.contains('=') && !line.text.contains("maybe ");
             if (isAnswer && !asked.contains(line.number))
@@ -103,76 +125,74 @@ QString SessionRun::problemOf(const Session& session)
     return {};
 }
 
-SessionRun::SessionRun(const Session& session, const QByteArray& way)
-    : session(session), way(way), module(session.text("protocol"))
+/** One opening, as the lines whose keys begin with \a newPrefix say, and leaving it by \a newWay. */
+void SessionRun::open(const QByteArray& newPrefix, const QByteArray& newWay)
 {
-    module.link.script(session.lines.value("answer"));
-    interruptions = session.lines.value("during");
+    prefix = newPrefix;
+    way = newWay;
+    isOk = false;
+    module.versions = backend(session.text(prefix + "protocol", session.text("protocol", "1.23")));
+    module.link.script(lines("answer"));
+    interruptions = lines("during");
     module.link.during = [this](const QByteArray& text) { interrupt(text); };
-    const int result = module.open([&] {
-        compareOpening();
-        module.link.script(session.lines.value("later"));
-        actAll("user");
-        if (session.lines.contains("during"))
-            QTest::qWait(1); // what waits is carried out from the event loop
-        compareWidgets("after");
-        isOk = way == "OK" && module.see("pushButton_Ok") != " off";
-        if (module.dialog()->isVisible())
-            module.user().leave(isOk || way != "OK" ? way : "Cancel");
-    });
+    const int result = module.open([this] { useAndLeave(); });
     demand(interruptions.isEmpty(), "nothing happens during " + interruptions.value(0).text,
            interruptions.value(0).number);
     if (result == -1)
         compareOpening();
-    const int expected = session.lines.contains("stops") ? -1 : isOk ? QDialog::Accepted : QDialog::Rejected;
+    const bool isAccepted = isOk && module.dialog();
+    const int expected = !lines("stops").isEmpty() ? -1 : isAccepted ? QDialog::Accepted : QDialog::Rejected;
     demand(result == expected, QString("update_and_exec() returns %1 instead of %2").arg(result).arg(expected));
-    const auto left = [&](const QByteArray& suffix) {
-        return session.lines.value("sends" + suffix) + session.lines.value((isOk ? "ok" : "cancel") + suffix);
-    };
-    compareLines("commands after the opening", module.link.commands, left(""));
-    compareLines("reports after the opening", module.link.reports, left("-report"));
-    compareLines("boxes", module.boxes, left("-box"));
-    if (session.lines.contains("again") || session.lines.contains("again-protocol"))
-        openAgain();
+    const QByteArray exit = isOk ? "ok" : "cancel";
+    compareLines("commands after the opening", module.link.takeCommands(), lines("sends") + lines(exit));
+    compareLines("reports after the opening", module.link.takeReports(),
+                 lines("sends-report") + lines(exit + "-report"));
+    compareLines("boxes", std::exchange(module.boxes, {}), lines(exit + "-box"));
 }
 
-void SessionRun::openAgain()
+/** What happens while the dialog is open. */
+void SessionRun::useAndLeave()
 {
-    module.versions = backend(session.text("again-protocol", session.text("protocol")));
-    module.link.script(session.lines.value("again"));
-    const int result = module.open([this] {
-        compareWidgets("again-shows");
-        module.link.takeCommands();
-        actAll("again-user");
-        module.user().leave(session.text("again-leave", "OK"));
-    });
-    demand(result >= 0, "the second opening does not show the dialog");
-    compareLines("commands after the second opening", module.link.commands, session.lines.value("again-sends"));
+    compareOpening();
+    module.link.script(lines("later"));
+    for (const SessionLine& line : lines("user")) {
+        const QString undone = act(module, line);
+        demand(undone.isEmpty(), undone, line.number);
+    }
+    if (!module.dialog())
+        return;
+    for (int turn = 0; turn < 3; ++turn)
+        QCoreApplication::processEvents(); // what waits is carried out in turns of the event loop: a source, then an
+                                           // exit
+    compareWidgets("after");
+    isOk = way == "OK" && module.see("pushButton_Ok") != " off";
+    if (module.dialog()->isVisible())
+        module.user().leave(isOk || way != "OK" ? way : "Cancel");
 }
 
 void SessionRun::compareOpening()
 {
-    SessionLines asked = session.lines.value("asks");
-    for (const SessionLine& unasked : session.lines.value("unasked")) {
+    SessionLines asked = lines("asks");
+    for (const SessionLine& unasked : lines("unasked")) {
         const auto isMeant = [&](const SessionLine& line) { return line.text.contains(unasked.text); };
         auto* const rest = std::remove_if(asked.begin(), asked.end(), isMeant);
         demand(rest != asked.end(), "no command of the opening contains \"" + unasked.text + '"', unasked.number);
         asked.erase(rest, asked.end());
     }
     const QByteArrayList commands = module.link.takeCommands();
-    if (session.lines.contains("asks"))
+    if (!lines("asks").isEmpty())
         compareLines("commands of the opening", commands, asked);
-    compareLines("reports of the opening", module.link.takeReports(), session.lines.value("report"));
+    compareLines("reports of the opening", module.link.takeReports(), lines("report"));
     compareWidgets("shows");
 }
 
 void SessionRun::compareWidgets(const QByteArray& key)
 {
-    for (const SessionLine& line : session.lines.value(key)) {
+    for (const SessionLine& line : lines(key)) {
         const QByteArray name = line.text.left(line.text.indexOf(':'));
-        const bool isKnown = module.find<QWidget>(name);
-        demand(isKnown, unknownWidget(module, name), line.number);
-        const QByteArray content = isKnown ? module.see(name) : QByteArray();
+        if (!module.find<QWidget>(name))
+            return demand(false, unknownWidget(module, name), line.number);
+        const QByteArray content = module.see(name);
         const QByteArray found = name + ':' + (content.isEmpty() ? "" : " ") + content;
         demand(found == line.text, "expected " + line.text + "\n  found    " + found, line.number);
     }
@@ -206,14 +226,6 @@ void SessionRun::interrupt(const QByteArray& text)
     const QString undone = act(module, action);
     demand(undone.isEmpty(), undone, action.number);
     QCoreApplication::processEvents();
-}
-
-void SessionRun::actAll(const QByteArray& key)
-{
-    for (const SessionLine& line : session.lines.value(key)) {
-        const QString undone = act(module, line);
-        demand(undone.isEmpty(), undone, line.number);
-    }
 }
 
 void SessionRun::demand(bool condition, const QString& otherwise, int line)

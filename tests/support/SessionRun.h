@@ -10,20 +10,24 @@ QString act(LoadedModule& module, const SessionLine& line);
 class SessionRun
 {
 public:
+    /** The keys that a line of a case may begin with. */
+    static QByteArrayList keys();
     /** Runs the case in every way; the first problem of all, or an answer that nothing asked for. */
     static QString problemOf(const Session& session);
 
 private:
-    SessionRun(const Session& session, const QByteArray& way);
-    void openAgain();
+    explicit SessionRun(const Session& session) : session(session) {}
+    void open(const QByteArray& newPrefix, const QByteArray& newWay);
+    void useAndLeave();
     void compareOpening();
     void compareWidgets(const QByteArray& key);
     void compareLines(const QString& what, const QByteArrayList& found, const SessionLines& expected);
     void interrupt(const QByteArray& text);
-    void actAll(const QByteArray& key);
     void demand(bool condition, const QString& otherwise, int line = 0);
+    SessionLines lines(const QByteArray& key) const { return session.lines.value(prefix + key); }
 
     const Session& session;
+    QByteArray prefix; // of the keys of this opening
     QByteArray way;
     SessionLines interruptions; // that have not happened yet
     LoadedModule module;
