@@ -1,9 +1,13 @@
 #include "Files.h"
 #include "SessionRun.h"
 
+#include <QLabel>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
-/** Whole sessions with the dialog, described in data/sessions.txt. */
+#include <climits>
+
+/** Whole sessions with the dialog, as the files of data tell them. */
 class TestSessions : public QObject
 {
     Q_OBJECT
@@ -13,8 +17,13 @@ private slots:
     void runs();
     void survivesEventLoops_data() { addSessions("event-loops.txt", SessionRun::keys()); }
     void survivesEventLoops() { runs(); }
-    void findsMistakes_data();
+    void findsMistakes_data() { addTexts("mistakes.txt"); }
     void findsMistakes();
+    void survivesEachFailure_data() { addSessions("failures.txt", failureKeys); }
+    void survivesEachFailure();
+
+private:
+    const QByteArrayList failureKeys = {"protocol", "answer", "user", "leave"};
 };
 
 void TestSessions::runs()
@@ -25,29 +34,121 @@ void TestSessions::runs()
 }
 
 /** data/mistakes.txt holds small session files, each behind the message that it must give. */
-void TestSessions::findsMistakes_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("message");
-    const QByteArray all = readFile(DATA_DIR "/mistakes.txt").replace("\n= ", QByteArray(1, '\0'));
-    const QByteArrayList parts = all.split('\0').mid(1);
-    for (const QByteArray& part : parts) {
-        const QByteArray message = part.left(part.indexOf('\n'));
-        QTest::newRow(message) << part.mid(message.size() + 1) << QString(message).replace("\\n", "\n");
-    }
-}
-
 void TestSessions::findsMistakes()
 {
-    QFETCH(QByteArray, text);
-    QFETCH(QString, message);
+    QFETCH(QByteArray, left);
     QTemporaryDir folder;
-    writeFile(folder.filePath("a"), text);
+    writeFile(folder.filePath("a"), left);
     const SessionFile file(folder.filePath("a"), SessionRun::keys());
     QString found = file.mistakes.value(0);
     for (int i = 0; i < file.sessions.size() && found.isEmpty(); ++i)
         found = SessionRun::problemOf(file.sessions.at(i));
-    QCOMPARE(found, message);
+    QTEST(found.toUtf8(), "right");
+}
+
+namespace {
+
+/** One opening: the commands before "opened" filled the dialog, those from "left" on were sent on leaving it. */
+struct Run
+{
+    QByteArray phase(int command) const { return command < opened ? "opening" : command < left ? "open" : way; }
+
+    int result = 0;
+    int opened = INT_MAX;
+    int left = INT_MAX;
+    QByteArray way;
+    QString undone; // why actions could not be done
+    QStringList shown;
+    QByteArrayList commands;
+};
+
+Run open(LoadedModule& module, const SessionLines& actions, const QByteArray& way)
+{
+    Run run;
+    module.boxes.clear();
+    // They keep what an earlier opening saw.
+    module.find<QLabel>("label_inputSource")->clear();
+    module.find<QLabel>("label_inputFrequency")->clear();
+    run.result = module.open([&] {
+        run.opened = module.link.commands.size();
+        run.shown = textOfDialog(module.dialog());
+        const bool isOff = module.see("pushButton_Ok") == " off";
+        for (const SessionLine& action : isOff ? SessionLines() : actions)
+            run.undone += act(module, action);
+        run.left = module.link.commands.size();
+        run.way = isOff ? "Cancel" : way;
+        module.user().leave(run.way);
+    });
+    run.commands = module.link.commands;
+    return run;
+}
+
+/** Effect and report of the first row of \a table that knows \a command. */
+QStringList consequence(const QByteArrayList& table, const QString& command)
+{
+    for (const QByteArray& line : table) {
+        const QString row = line;
+        const QRegularExpression expression('^' + row.section(" -> ", 0, 0).section(' ', 1) + '$');
+        if (expression.match(command).hasMatch())
+            return {row.section(' ', 0, 0), QString(command).replace(expression, row.section(" -> ", 1))};
+    }
+    return {"not in the table: " + command, QString()};
+}
+
+/** Holds reports, boxes, result and end of a run against what the table says of the commands that failed. */
+void compareRun(const LoadedModule& module, const SessionFile& table, const Run& run, const Run& clean)
+{
+    QStringList effects;
+    QByteArrayList reports;
+    for (const int command : module.link.failed) {
+        const QStringList found = consequence(table.lists.value(run.phase(command)), run.commands.at(command));
+        effects.append(found.at(0));
+        if (!found.at(1).isEmpty())
+            reports.append(found.at(1).toUtf8());
+    }
+    QCOMPARE(module.link.reports, reports);
+    const QByteArrayList warning = {"Warning: Error occured while performing the change"};
+    QCOMPARE(module.boxes, effects.contains("box") ? warning : QByteArrayList());
+    QCOMPARE(run.result, effects.contains("stops") ? -1 : run.way == "OK" ? 1 : 0);
+    const QByteArrayList rest = run.commands.mid(module.link.failed.last() + 1);
+    if (effects.contains("stops") || effects.contains("bare") || effects.contains("last"))
+        QCOMPARE(rest, QByteArrayList());
+    const int output = clean.commands.join('\n').indexOf("\nbool synccard has_output");
+    if (effects == QStringList("box"))
+        QCOMPARE('\n' + rest.join('\n'), output < 0 ? "\n" : clean.commands.join('\n').mid(output));
+}
+
+} // namespace
+
+/** Each command fails in turn: the dialog closes, reports each failure once, and works again at the next opening. */
+void TestSessions::survivesEachFailure()
+{
+    QFETCH(Session, session);
+    const SessionFile table(DATA_DIR "/failures.txt", failureKeys);
+    LoadedModule module(session.text("protocol"));
+    module.link.script(session.lines.value("answer"));
+    const ScriptedLink::Answers answers = module.link.answers;
+    const SessionLines actions = session.lines.value("user");
+    const Run clean = open(module, actions, session.text("leave"));
+    QCOMPARE(clean.undone, QString());
+    QCOMPARE(module.link.reports + module.boxes, QByteArrayList());
+    QVERIFY(module.link.failed.isEmpty());
+    for (int i = 0; i < clean.commands.size(); ++i) {
+        for (const int end : {i + 1, INT_MAX}) {
+            module.link.restart(answers, i, end);
+            const Run run = open(module, actions, session.text("leave"));
+            QVERIFY(module.link.failed.contains(i));
+            compareRun(module, table, run, clean);
+            module.link.restart(answers);
+            const Run next = open(module, {}, "Cancel");
+            QCOMPARE(next.commands, clean.commands.mid(0, clean.opened));
+            QCOMPARE(next.shown, clean.shown);
+            QCOMPARE(next.result, int(QDialog::Rejected));
+            QCOMPARE(module.link.reports, QByteArrayList());
+            if (QTest::currentTestFailed())
+                QFAIL(qPrintable("failing " + clean.commands.at(i) + (end == INT_MAX ? " and what follows" : "")));
+        }
+    }
 }
 
 QTEST_MAIN(TestSessions)

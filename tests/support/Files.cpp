@@ -15,6 +15,18 @@ void addRows(const char* name)
     }
 }
 
+void addTexts(const char* name)
+{
+    QTest::addColumn<QByteArray>("left");
+    QTest::addColumn<QByteArray>("right");
+    const QByteArray all = readFile(QString(DATA_DIR "/") + name).replace("\n= ", QByteArray(1, '\0'));
+    const QByteArrayList parts = all.split('\0').mid(1);
+    for (const QByteArray& part : parts) {
+        const QByteArray message = part.left(part.indexOf('\n'));
+        QTest::newRow(message) << part.mid(message.size() + 1) << QByteArray(message).replace("\\n", "\n");
+    }
+}
+
 QByteArray readFile(const QString& name)
 {
     QFile file(name);

@@ -5,6 +5,9 @@
 /** Rows of two texts for a test with the parameters "left" and "right", from a file of tests/data: "left -> right". */
 void addRows(const char* name);
 
+/** The same from a file of small texts, each behind its message: "= right", and below it the lines of "left". */
+void addTexts(const char* name);
+
 /** The whole file; ends the program when it cannot be read. */
 QByteArray readFile(const QString& name);
 
