@@ -61,16 +61,13 @@ void LoadedModule::closeBox()
 
 int LoadedModule::open(const DialogUser::Steps& steps) const
 {
-    int result = -3;
-    openBy([&] { QMetaObject::invokeMethod(dialog(), "update_and_exec", Q_RETURN_ARG(int, result)); }, steps);
-    return result;
-}
-
-void LoadedModule::openBy(const DialogUser::Steps& trigger, const DialogUser::Steps& steps) const
-{
     // As in a host: the focus goes from its window to the dialog.
     parent->activateWindow();
     QApplication::processEvents();
-    QVERIFY(QTest::qWaitFor([this] { return parent->isActiveWindow(); }));
-    QVERIFY2(user().openBy(trigger, steps) != DialogUser::LeftOpen, "the dialog was left open");
+    int result = -3;
+    const auto open = [&] { QMetaObject::invokeMethod(dialog(), "update_and_exec", Q_RETURN_ARG(int, result)); };
+    const bool isReady = QTest::qWaitFor([this] { return parent->isActiveWindow(); });
+    if (!isReady || user().openBy(open, steps) == DialogUser::LeftOpen)
+        QTest::qFail("the dialog did not open or was left open", __FILE__, __LINE__);
+    return result;
 }

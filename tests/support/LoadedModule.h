@@ -30,10 +30,11 @@ public:
         return dialog()->findChild<Widget*>(name);
     }
 
-    /** Opens the dialog by its slot, runs \a steps while it is open, and returns what update_and_exec() returned. */
+    /**
+     * Opens the dialog by its slot, runs \a steps while it is open, and returns what update_and_exec() returned. Fails
+     * the test when they leave it open.
+     */
     int open(const DialogUser::Steps& steps) const;
-    /** Opens it by \a trigger instead; fails the test when \a steps leave it open. */
-    void openBy(const DialogUser::Steps& trigger, const DialogUser::Steps& steps) const;
     /** Opens the dialog and leaves by Escape. */
     int look() const
     {
