@@ -41,9 +41,24 @@ void printSeed()
 class GarbageLink : public ControllerLink
 {
 public:
-    bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
+    bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override
+    {
+        runEventLoop();
+        *answer = operation == Operation::Int || operation == Operation::Double ? number() : text();
+        if (command == "synccard available" && random.bounded(10) > 0)
+            *answer = "yes";
+        return random.bounded(200) > 0;
+    }
 
-    void runEventLoop();
+    /** What a channel may do while it waits for an answer, and a host while it reports. */
+    void runEventLoop()
+    {
+        QVERIFY(!isAsked);
+        isAsked = true;
+        if (random.bounded(4) == 0)
+            QCoreApplication::processEvents();
+        isAsked = false;
+    }
 
     template <typename Value>
     Value anyOf(const QVector<Value>& values)
@@ -55,46 +70,24 @@ public:
     bool isAsked = false; // a command or a report is under way
 
 private:
-    QByteArray text();
-    QByteArray number();
+    QByteArray text()
+    {
+        QByteArray bytes(anyOf<int>({1, 15, 99, 199, random.bounded(200)}), '\0');
+        for (char& byte : bytes)
+            byte = static_cast<char>(random.bounded(1, 256));
+        return anyOf<QByteArray>({"yes", "yes", "yes", "no", "internal", "video", "a b c d none", "0x0301 7", "", " ",
+                                  "direct settings", R"(x "a" b)", R"(""")", "%n%s%1%2%99", "<b><img src=x>", bytes,
+                                  bytes});
+    }
+
+    QByteArray number()
+    {
+        if (random.bounded(100) > 0)
+            return anyOf<QByteArray>({"0", "1", "2", "3", "0.25", "60"});
+        return anyOf<QByteArray>({"-1", "999", "2147483647", "-2147483648", "99999999999", "nan", "inf", "-inf",
+                                  "1e308", "-1e305", "1e-320", text()});
+    }
 };
-
-QByteArray GarbageLink::text()
-{
-    QByteArray bytes(anyOf<int>({1, 15, 99, 199, random.bounded(200)}), '\0');
-    for (char& byte : bytes)
-        byte = static_cast<char>(random.bounded(1, 256));
-    return anyOf<QByteArray>({"yes", "yes", "yes", "no", "internal", "video", "a b c d none", "0x0301 7", "", " ",
-                              "direct settings", R"(x "a" b)", R"(""")", "%n%s%1%2%99", "<b><img src=x>", bytes,
-                              bytes});
-}
-
-QByteArray GarbageLink::number()
-{
-    if (random.bounded(100) > 0)
-        return anyOf<QByteArray>({"0", "1", "2", "3", "0.25", "60"});
-    return anyOf<QByteArray>({"-1", "999", "2147483647", "-2147483648", "99999999999", "nan", "inf", "-inf", "1e308",
-                              "-1e305", "1e-320", text()});
-}
-
-/** What a channel may do while it waits for an answer, and a host while it reports. */
-void GarbageLink::runEventLoop()
-{
-    QVERIFY(!isAsked);
-    isAsked = true;
-    if (random.bounded(4) == 0)
-        QCoreApplication::processEvents();
-    isAsked = false;
-}
-
-bool GarbageLink::execute(Operation operation, const QByteArray& command, QByteArray* answer)
-{
-    runEventLoop();
-    *answer = operation == Operation::Int || operation == Operation::Double ? number() : text();
-    if (command == "synccard available" && random.bounded(10) > 0)
-        *answer = "yes";
-    return random.bounded(200) > 0;
-}
 
 /** What reaches the controller is printable, and numbers are finite. */
 void checkWritten(const CommandRecord& record)

@@ -15,8 +15,6 @@ class TestSessions : public QObject
 private slots:
     void runs_data() { addSessions("sessions.txt", SessionRun::keys()); }
     void runs();
-    void survivesEventLoops_data() { addSessions("event-loops.txt", SessionRun::keys()); }
-    void survivesEventLoops() { runs(); }
     void findsMistakes_data() { addTexts("mistakes.txt"); }
     void findsMistakes();
     void survivesEachFailure_data() { addSessions("failures.txt", failureKeys); }
