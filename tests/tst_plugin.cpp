@@ -82,12 +82,10 @@ void TestPlugin::offersOneEntry()
 {
     LoadedModule module;
     QCOMPARE(module.loader.module()->get_gui_elements(), {module.element});
-    QCOMPARE(QString("%1 %2 %3 %4")
-                 .arg(module.element->menu_name)
-                 .arg(module.element->menu_order_number)
-                 .arg(module.element->menu_entry_order_number)
-                 .arg(module.element->action_active_during_measurement),
-             "H&ardware 200 130 0");
+    QCOMPARE(module.element->menu_name, "H&ardware");
+    QCOMPARE(module.element->menu_order_number, 200);
+    QCOMPARE(module.element->menu_entry_order_number, 130);
+    QCOMPARE(module.element->action_active_during_measurement, 0);
     const QPointer<QAction> action(module.element->menu_entry);
     QCOMPARE(action->text() + action->statusTip() + action->whatsThis() + action->shortcut().toString(),
              "&SynccardChange Synccard settingsChange Synccard settingsShift+F7");
