@@ -58,7 +58,7 @@ void TestDialog::hasForm()
     module.open([&] {
         QStringList focused;
         for (const Qt::Key mnemonic : {Qt::Key_S, Qt::Key_C, Qt::Key_F, Qt::Key_O}) {
-            module.user().focus(mnemonic);
+            QTest::keyClick(module.dialog(), mnemonic, Qt::AltModifier);
             focused.append(module.dialog()->focusWidget()->objectName());
         }
         QCOMPARE(focused.join(' '), "comboBox_modes comboBox_source doubleSpinBox_frequency comboBox_output");

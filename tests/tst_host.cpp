@@ -27,7 +27,9 @@ namespace {
 QByteArray filled(QByteArray text)
 {
     text.replace("VERSION", PROJECT_VERSION).replace("PROGRAM", HOST_PROGRAM);
-    return text.replace("OTHER_PLUGIN", OTHER_PLUGIN).replace("NO_MODULE", NO_MODULE).replace("MODULE_IDENTIFIER", MODULE_IDENTIFIER);
+    return text.replace("OTHER_PLUGIN", OTHER_PLUGIN)
+        .replace("NO_MODULE", NO_MODULE)
+        .replace("MODULE_IDENTIFIER", MODULE_IDENTIFIER);
 }
 
 /** The host's exit status with \a options, standard output and standard error. */
