@@ -39,3 +39,7 @@ expect "$folder/missing.txt" 1 "missing.txt:9: expected"
 expect "$folder/more.txt" 1 "the recording goes on after the tour's end"
 sed '9s/.*/hello/' "$whole" >"$folder/damaged.txt"
 expect "$folder/damaged.txt" 2 "damaged.txt:9: "
+expect "a full disk" 2 "/dev/full: No space left on device" --record /dev/full
+# A file that must not grow beyond a kilobyte ends with its last whole line, and replays.
+(trap '' XFSZ && ulimit -f 1 && expect "a full disk later" 1 "cut.txt: File too large" --record "$folder/cut.txt")
+expect "$folder/cut.txt" 1 "cut.txt: expected the end of the recording, found"

@@ -1,11 +1,14 @@
+#include "ControllerFile.h"
 #include "DevelopmentHost.h"
 #include "Files.h"
 #include "LoadedModule.h"
 #include "NamedControllers.h"
+#include "StateTree.h"
 
 #include <QMenu>
 #include <QMenuBar>
 #include <QProcess>
+#include <QTemporaryDir>
 
 /** The development host: its loader and command line, and the named controllers. */
 class TestHost : public QObject
@@ -61,7 +64,8 @@ void TestHost::prints()
     QCOMPARE(version.at(0) + version.at(2) + help.at(0) + help.at(2), "00");
 }
 
-/** Each named controller shows one thing in the dialog, or answers one set, that it exists for. */
+/** Each named controller shows one thing in the dialog, or answers one set, that it exists for. Saved, it stays the
+ * same. */
 void TestHost::opensControllers()
 {
     QFETCH(QByteArray, left);
@@ -84,6 +88,11 @@ void TestHost::opensControllers()
     };
     QCOMPARE(user.openBy(open, look), DialogUser::Closed);
     QCOMPARE(asked + ": " + seen.toUtf8(), right);
+    const QTemporaryDir folder;
+    HostSetup saved;
+    QVERIFY(saveControllerFile(folder.filePath("a.json"), wanted.state, &seen));
+    QCOMPARE(readController(folder.filePath("a.json"), &saved), QString());
+    QCOMPARE(toTree(saved.state).toLines(), toTree(wanted.state).toLines());
 }
 
 void TestHost::placesTheEntry()

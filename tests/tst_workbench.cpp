@@ -36,11 +36,10 @@ private slots:
 
 namespace {
 
-HostSetup setup(const QString& record = QString(), const QString& replay = QString())
+HostSetup replaying(const QString& file)
 {
     HostSetup result;
-    result.record = record;
-    result.replay = replay;
+    result.replay = file;
     return result;
 }
 
@@ -72,14 +71,23 @@ void raiseFrequency(const DialogUser& user)
     user.leave("OK");
 }
 
-/** The text of the recording of one opening. */
+/** The text of the recording of one opening, during which it cannot be stopped. */
 QByteArray recorded(const QString& file)
 {
-    DevelopmentHost host(setup(file));
-    if (host.start())
-        open(host, raiseFrequency);
-    QFile recording(file);
-    return recording.open(QIODevice::ReadOnly) ? recording.readAll() : QByteArray();
+    DevelopmentHost host{HostSetup()};
+    host.start();
+    QString problem = host.startRecording(file);
+    open(host, [&](const DialogUser& user) {
+        problem += host.stopRecording() + host.startRecording(file) + host.resetController();
+        raiseFrequency(user);
+    });
+    problem += host.window().windowTitle() + host.stopRecording() + host.startRecording(file);
+    const QString refused = "Close the dialog first.";
+    return problem
+                   == refused + refused + refused + "full, protocol 1.23.0, recording a - Development Host" + file
+                          + ": this file exists; name another one, or remove it first"
+               ? readFile(file)
+               : problem.toUtf8();
 }
 
 } // namespace
@@ -93,32 +101,38 @@ void TestWorkbench::replaysWhatItRecorded()
     QByteArray text = recorded(file);
     text.replace("frequency d01 -> 60\n", "frequency d01 -> 77\n").replace("frequency d01 61", "frequency d01 78");
     writeFile(file, text);
-    HostSetup replaying = setup(QString(), file);
-    replaying.state.protocol = VersionInfo(0, 9, 0);
+    HostSetup whole = replaying(file);
+    whole.state.protocol = VersionInfo(0, 9, 0);
     {
-        DevelopmentHost host(replaying);
+        DevelopmentHost host(whole);
         QVERIFY2(host.start(), qPrintable(host.errorString()));
-        open(host, [&](const DialogUser& user) {
-            QMetaObject::invokeMethod(user.dialog(), "poll_input_frequency");
-            QCOMPARE(textOfWidget(user.find<QWidget>("label_inputFrequency")), "59.940");
-            QCOMPARE(textOfWidget(user.find<QWidget>("doubleSpinBox_frequency")), "10..500:77");
-            raiseFrequency(user);
-        });
+        for (int round = 0; round < 2; ++round) {
+            QCOMPARE(host.rewindReplay(), QString());
+            open(host, [&](const DialogUser& user) {
+                QMetaObject::invokeMethod(user.dialog(), "poll_input_frequency");
+                QCOMPARE(textOfWidget(user.find<QWidget>("label_inputFrequency")), "59.940");
+                QCOMPARE(textOfWidget(user.find<QWidget>("doubleSpinBox_frequency")), "10..500:77");
+                raiseFrequency(user);
+            });
+        }
         QCOMPARE(host.replay().problem(), QString());
     }
     writeFile(file, QByteArray(text).replace("get synccard mode t02", "get synccard mode t03"));
-    DevelopmentHost differing(setup(QString(), file));
+    DevelopmentHost differing(replaying(file));
     QVERIFY(differing.start());
     open(differing, raiseFrequency, DialogUser::NotShown);
     const int line = text.left(text.indexOf("mode t02")).count('\n') + 1;
     const QString expected = R"(%1:%2: expected "get synccard mode t03", found "get synccard mode t02")";
     QCOMPARE(differing.replay().problem(), expected.arg(file).arg(line));
+    QCOMPARE(differing.rewindReplay(), QString());
+    QCOMPARE(differing.replay().problem(), QString());
+    QVERIFY(differing.replay().progress().endsWith(", next: get config is_changeable"));
 }
 
 /** The tree refuses impossible values. A protocol that crosses 0.13 loads the module again. */
 void TestWorkbench::editsTheController()
 {
-    DevelopmentHost host(setup());
+    DevelopmentHost host{HostSetup()};
     QVERIFY(host.start());
     ControllerModel model(&host.controller(), [&](const ControllerState& state) { return host.changeState(state); });
     const QAbstractItemModelTester tester(&model);
@@ -168,7 +182,7 @@ void TestWorkbench::editsTheController()
 /** Clicks reach the workbench while the dialog is open, and the main window does not close then. */
 void TestWorkbench::staysUsableBesideTheDialog()
 {
-    HostSetup failing = setup();
+    HostSetup failing = HostSetup();
     failing.failing.setPattern("model_desc 0x0405|has_output");
     DevelopmentHost host(failing);
     Workbench workbench(&host);
@@ -210,7 +224,7 @@ void TestWorkbench::staysUsableBesideTheDialog()
 
 void TestWorkbench::logsOpeningAndExit()
 {
-    DevelopmentHost host(setup());
+    DevelopmentHost host{HostSetup()};
     Workbench workbench(&host);
     QVERIFY(host.start());
     workbench.findChildren<QCheckBox*>().constLast()->click(); // "wait in an event loop"

@@ -99,7 +99,9 @@ bool readRecording(const QString& file, QVector<RecordedLine>* lines, QString* e
         *error = file + ": " + input.errorString();
         return false;
     }
-    QStringList texts = QString::fromUtf8(input.readAll()).replace("\r\n", "\n").split('\n');
+    const QByteArray bytes = input.readAll();
+    // The size tells fromUtf8() not to stop at a NUL byte.
+    QStringList texts = QString::fromUtf8(bytes.constData(), bytes.size()).replace("\r\n", "\n").split('\n');
     const bool isCutOff = !texts.takeLast().isEmpty();
     QString reason = texts.value(0) + '\n' == recordingHeader ? QString() : "this is no recording";
     int number = 1;
