@@ -86,7 +86,8 @@ QStringList consequence(const QByteArrayList& table, const QString& command)
 {
     for (const QByteArray& line : table) {
         const QString row = line;
-        const QRegularExpression expression('^' + row.section(" -> ", 0, 0).section(' ', 1) + '$');
+        const QString pattern = row.section(" -> ", 0, 0).section(' ', 1);
+        const QRegularExpression expression('^' + pattern + '$');
         if (expression.match(command).hasMatch())
             return {row.section(' ', 0, 0), QString(command).replace(expression, row.section(" -> ", 1))};
     }

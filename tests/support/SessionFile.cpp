@@ -105,7 +105,8 @@ void addSessions(const char* name, const QByteArrayList& keys)
     QTest::addColumn<Session>("session");
     const SessionFile file(QString(DATA_DIR "/") + name, keys);
     QVERIFY2(file.mistakes.isEmpty(), qPrintable(file.mistakes.join('\n')));
-    for (Session session : file.sessions) {
+    for (const Session& all : file.sessions) {
+        Session session = all;
         const SessionLines protocols = session.lines.value("protocol", {{"1.23", 0}});
         for (const SessionLine& protocol : protocols) {
             session.lines["protocol"] = {protocol};

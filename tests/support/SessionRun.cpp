@@ -29,7 +29,8 @@ QString walk(const QDialog* dialog, Qt::Key key)
 {
     QStringList expected;
     QStringList reached;
-    const QList<QWidget*> widgets = dialog->findChildren<QWidget*>(QRegularExpression("^(?!qt_)"));
+    static const QRegularExpression ours("^(?!qt_)");
+    const QList<QWidget*> widgets = dialog->findChildren<QWidget*>(ours);
     for (const QWidget* widget : widgets) {
         const bool takesFocus = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
         if (takesFocus && widget->isVisible() && widget->isEnabled())
@@ -155,7 +156,8 @@ void SessionRun::useAndLeave()
 {
     compareOpening();
     module.link.script(lines("later"));
-    for (const SessionLine& line : lines("user")) {
+    const SessionLines actions = lines("user");
+    for (const SessionLine& line : actions) {
         const QString undone = act(module, line);
         demand(undone.isEmpty(), undone, line.number);
     }
@@ -173,7 +175,8 @@ void SessionRun::useAndLeave()
 void SessionRun::compareOpening()
 {
     SessionLines asked = lines("asks");
-    for (const SessionLine& unasked : lines("unasked")) {
+    const SessionLines leftOut = lines("unasked");
+    for (const SessionLine& unasked : leftOut) {
         const auto isMeant = [&](const SessionLine& line) { return line.text.contains(unasked.text); };
         auto* const rest = std::remove_if(asked.begin(), asked.end(), isMeant);
         demand(rest != asked.end(), "no command of the opening contains \"" + unasked.text + '"', unasked.number);
@@ -188,7 +191,8 @@ void SessionRun::compareOpening()
 
 void SessionRun::compareWidgets(const QByteArray& key)
 {
-    for (const SessionLine& line : lines(key)) {
+    const SessionLines expected = lines(key);
+    for (const SessionLine& line : expected) {
         const QByteArray name = line.text.left(line.text.indexOf(':'));
         if (!module.find<QWidget>(name))
             return demand(false, unknownWidget(module, name), line.number);
