@@ -15,7 +15,7 @@ bool isControl(QChar character)
 /** The wire's Latin-1 as UTF-8 on one line. An arrow in the text must not be taken for the one before the answer. */
 QByteArray escaped(const QByteArray& text)
 {
-    QString line = QString::fromLatin1(text);
+    QString line = QString::fromLatin1(text.constData(), text.size()); // NUL bytes included
     line.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r").replace("->", "\\->");
     for (int i = line.size() - 1; i >= 0; --i) {
         if (isControl(line.at(i)))
@@ -44,12 +44,12 @@ QString readLine(const QString& text, RecordedLine* line)
 {
     static const QRegularExpression form(R"(^(\S+) ((\S+) .*?)( ->(?: (.*))?| failed)$)");
     static const QRegularExpression escapes(R"(^(?:[^\\]|\\[nr\\-]|\\x[0-9a-f]{2})*$)");
-    if (QString::fromLatin1(text.toLatin1()) != text)
-        return "a character that is not Latin-1, or no UTF-8";
     const auto* const control = std::find_if(text.begin(), text.end(), isControl);
     if (control != text.end())
         return QString(R"(a control character, code %1; it is written "%2")")
             .arg(QString::number(control->unicode()), QString::fromUtf8(escaped(QByteArray(1, control->toLatin1()))));
+    if (QString::fromLatin1(text.toLatin1()) != text)
+        return "a character that is not Latin-1, or no UTF-8";
     if (!escapes.match(text).hasMatch())
         return R"(an unknown "\"; the character itself is written "\\")";
     const QRegularExpressionMatch match = form.match(text);
