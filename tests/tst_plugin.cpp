@@ -153,7 +153,7 @@ void TestPlugin::speaksGerman()
     QFile file(TRANSLATION);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString all = QString(file.readAll()).replace("&lt;", "<").replace("&gt;", ">").replace("&amp;", "&");
-    const QRegularExpression message("<source>(.*)</source>\\s*<translation>(.*)</translation>");
+    static const QRegularExpression message("<source>(.*)</source>\\s*<translation>(.*)</translation>");
     for (auto messages = message.globalMatch(all); messages.hasNext();) {
         const QStringList texts = messages.next().capturedTexts();
         QVERIFY2(english.contains(texts.at(1)), qPrintable(texts.at(1)));
