@@ -15,12 +15,14 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-static constexpr int columnPadding = 24; // pixels
+static constexpr int columnPadding = 24;  // pixels
+static constexpr int shortestPause = 100; // milliseconds between two paintings, which may themselves take some
 
 CommandPane::CommandPane(DevelopmentHost* host) : shown(&commands), table(createTable(host))
 {
     shown.setFilterKeyColumn(-1);
     shown.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    sinceShown.start();
     auto* faults = new FaultPane(host);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(createButtons());
@@ -29,12 +31,13 @@ CommandPane::CommandPane(DevelopmentHost* host) : shown(&commands), table(create
     connect(faults, &FaultPane::said, this, &CommandPane::said);
     connect(&host->channel(), &ControllerChannel::executed, this, [this, host](const CommandRecord& record) {
         commands.append(record);
-        if (host->faults().latency() == 0)
-            return;
         // A slow command is shown as soon as it is answered: no event loop may run until the module has asked them all.
+        if (host->faults().latency() == 0 || sinceShown.elapsed() < shortestPause)
+            return;
         commands.showPending();
         QApplication::sendPostedEvents(table, QEvent::MetaCall); // scrollToBottom()
         table->viewport()->repaint();
+        sinceShown.start();
     });
     connect(&host->replay(), &Replay::differed, &commands, &CommandModel::appendProblem);
 }

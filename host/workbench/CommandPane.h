@@ -2,6 +2,7 @@
 
 #include "CommandFilter.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 class DevelopmentHost;
@@ -30,4 +31,5 @@ private:
     CommandModel commands;
     CommandFilter shown;
     LogTable* table;
+    QElapsedTimer sinceShown;
 };
