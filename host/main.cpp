@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QStatusBar>
 #include <QStyle>
 
 static constexpr int gap = 12;             // pixels between windows, with room for their frames
@@ -48,6 +49,8 @@ int main(int argc, char* argv[])
         if (!problem.isEmpty())
             fail(problem);
     });
+    QObject::connect(&workbench, &Workbench::stepCounted, host.window().statusBar(),
+                     [&](const QString& text) { host.window().statusBar()->showMessage(text); });
     if (!host.start())
         return fail(host.errorString());
     placeWindows(host.window(), host.dialog()->sizeHint(), workbench,

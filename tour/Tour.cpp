@@ -9,12 +9,34 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
+#include <QStyleOptionTitleBar>
 #include <QTest>
 
 static constexpr int boxPollMilliseconds = 5;
 static constexpr int pollDeadlineMilliseconds = 20000; // a poll's two commands may be slow
 static constexpr int pictureMargin = 16;               // pixels
 static constexpr int workbenchWidth = 1080;            // pixels; its picture cuts off no command
+
+/** \a dialog below a title bar as the style draws it: the window manager's own cannot be grabbed. */
+static QPixmap pictureOf(QDialog* dialog)
+{
+    const QPixmap content = dialog->grab();
+    QStyleOptionTitleBar bar;
+    bar.initFrom(dialog);
+    bar.text = dialog->windowTitle();
+    bar.icon = dialog->windowIcon();
+    bar.titleBarState = Qt::WindowActive;
+    bar.state |= QStyle::State_Active;
+    bar.titleBarFlags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    bar.subControls = QStyle::SC_TitleBarLabel | QStyle::SC_TitleBarSysMenu | QStyle::SC_TitleBarCloseButton;
+    bar.rect.setHeight(dialog->style()->pixelMetric(QStyle::PM_TitleBarHeight, &bar, dialog));
+    QPixmap picture(content.width(), bar.rect.height() + content.height());
+    picture.fill(bar.palette.color(QPalette::Window));
+    QPainter painter(&picture);
+    dialog->style()->drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, dialog);
+    painter.drawPixmap(0, bar.rect.height(), content);
+    return picture;
+}
 
 static void printCommand(const CommandRecord& record)
 {
@@ -120,7 +142,7 @@ void Tour::closeBox()
     box->accept();
 }
 
-/** Prints what the dialog shows, and takes its picture. */
+/** Prints what the dialog shows, and takes its picture if \a name is not empty. */
 void Tour::look(const QString& name)
 {
     const QStringList lines = textOfDialog(user->dialog());
@@ -130,13 +152,13 @@ void Tour::look(const QString& name)
     }
     // A dialog of fixed size takes its new size one turn of the event loop after widgets were shown or hidden.
     QTest::qWait(1);
-    savePicture(name, user->dialog()->grab());
+    savePicture(name, pictureOf(user->dialog()));
 }
 
 /** Takes a picture of the dialog with the workbench beside it. */
 void Tour::lookAtWorkbench()
 {
-    const QPixmap left = user->dialog()->grab();
+    const QPixmap left = pictureOf(user->dialog());
     workbench.resize(workbenchWidth, left.height());
     const QPixmap right = workbench.grab();
     QPixmap both(left.width() + right.width() + 3 * pictureMargin, left.height() + 2 * pictureMargin);
@@ -150,7 +172,7 @@ void Tour::lookAtWorkbench()
 void Tour::savePicture(const QString& name, const QPixmap& picture)
 {
     const QString file = QDir(pictureFolder).filePath(name + ".png");
-    if (!pictureFolder.isEmpty() && !hasFailed())
+    if (!pictureFolder.isEmpty() && !name.isEmpty() && !hasFailed())
         demand(picture.save(file), file + ": cannot be written");
 }
 

@@ -147,7 +147,7 @@ void Tour::editChannels()
         card.channels.first().delay = delay / 1000.0;
         if (!isIdleFixed)
             card.channels.last().activeDuringIdle = !card.channels.last().activeDuringIdle;
-        look("channels");
+        look({});
         user->leave("OK");
     });
 }
