@@ -136,6 +136,7 @@ void SessionRun::open(const QByteArray& newPrefix, const QByteArray& newWay)
     module.link.script(lines("answer"));
     interruptions = lines("during");
     module.link.during = [this](const QByteArray& text) { interrupt(text); };
+    QObject::connect(module.dialog(), &QDialog::finished, &module.channel, [this] { interrupt("finished"); });
     const int result = module.open([this] { useAndLeave(); });
     demand(interruptions.isEmpty(), "nothing happens during " + interruptions.value(0).text,
            interruptions.value(0).number);
@@ -161,11 +162,10 @@ void SessionRun::useAndLeave()
         const QString undone = act(module, line);
         demand(undone.isEmpty(), undone, line.number);
     }
+    for (int turn = 0; turn < 3; ++turn) // what waits is carried out in turns of the event loop: a source, then an exit
+        QCoreApplication::processEvents();
     if (!module.dialog())
         return;
-    for (int turn = 0; turn < 3; ++turn)
-        QCoreApplication::processEvents(); // what waits is carried out in turns of the event loop: a source, then an
-                                           // exit
     compareWidgets("after");
     isOk = way == "OK" && module.see("pushButton_Ok") != " off";
     if (module.dialog()->isVisible())
