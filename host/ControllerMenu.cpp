@@ -8,7 +8,7 @@
 
 static constexpr char fileFilter[] = QT_TRANSLATE_NOOP("ControllerMenu", "Controller files (*.json)");
 
-ControllerMenu::ControllerMenu(DevelopmentHost* host) : QMenu(tr("&Controller")), host(host)
+ControllerMenu::ControllerMenu(DevelopmentHost* host) : QMenu(tr("&Controller"), &host->window()), host(host)
 {
     const auto add = [&](const QString& text, const QString& tip, auto slot) {
         addAction(text, this, slot)->setStatusTip(tip);

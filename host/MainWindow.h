@@ -29,7 +29,7 @@ public:
 
     bool isMeasurementRunning() const { return measurement->isChecked(); }
 
-    /** Adds \a menu behind those that are there, but before Help. */
+    /** Adds \a menu behind those that are there, but before Help. It stays its parent's. */
     void addMenu(QMenu* menu);
 
     /** Shows \a facts in rows, and briefly in the title. */

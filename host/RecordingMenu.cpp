@@ -4,7 +4,7 @@
 
 #include <QFileDialog>
 
-RecordingMenu::RecordingMenu(DevelopmentHost* host) : QMenu(tr("&Recording")), host(host)
+RecordingMenu::RecordingMenu(DevelopmentHost* host) : QMenu(tr("&Recording"), &host->window()), host(host)
 {
     QAction* start = addAction(tr("&Record..."), this, [this] { record(); });
     QAction* stop = addAction(tr("&Stop recording"), this, [host] { host->window().say(host->stopRecording()); });
