@@ -29,7 +29,7 @@ public:
 
     bool isMeasurementRunning() const { return measurement->isChecked(); }
 
-    /** Adds \a menu behind those that are there, but before Help. It stays its parent's. */
+    /** Adds \a menu behind those that are there, but before Help. Does not take ownership. */
     void addMenu(QMenu* menu);
 
     /** Shows \a facts in rows, and briefly in the title. */
