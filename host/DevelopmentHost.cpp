@@ -1,41 +1,24 @@
 #include "DevelopmentHost.h"
 
-#include "ControllerMenu.h"
-#include "RecordingMenu.h"
-
 #include <QApplication>
-#include <QFileInfo>
-#include <QMessageBox>
-
-static QString tr(const char* text)
-{
-    return QCoreApplication::translate("DevelopmentHost", text);
-}
-
-static QString nameOf(const ModuleInterface* module)
-{
-    return module ? module->get_module_name() + ' ' + module->get_module_version() : tr("no module");
-}
 
 static const char* const whyBusy = QT_TRANSLATE_NOOP("DevelopmentHost", "Close the dialog first.");
 
+static BackendVersions versionsOf(const ControllerState& controller)
+{
+    return {{1, 0, 0}, controller.protocol, {1, 0, 0}, controller.model};
+}
+
 DevelopmentHost::DevelopmentHost(const HostSetup& setup)
-    : initial(setup), backend(setup), mainWindow([this] { return isBusy(); }),
+    : setup(setup), simulated(setup.state), recorded(setup.replay),
+      faultLayer(isReplaying() ? static_cast<ControllerLink*>(&recorded) : &simulated), commandRecorder(&faultLayer),
+      commandChannel(&commandRecorder), backendVersions(versionsOf(setup.state)), mainWindow(this),
       loader(setup.pluginFile.isEmpty() ? ModuleLoader::defaultFile() : setup.pluginFile)
 {
+    faultLayer.failMatching(setup.failing);
+    faultLayer.setLatency(setup.latency);
     QObject::connect(&mainWindow, &MainWindow::measurementSwitched, &mainWindow,
                      [this](bool isOn) { loader.setMeasurementRunning(isOn); });
-    QObject::connect(&mainWindow, &MainWindow::aboutWanted, &mainWindow, [this] { about(); });
-    describing.setSingleShot(true);
-    QObject::connect(&describing, &QTimer::timeout, &mainWindow, [this] { describe(); });
-    const auto describeSoon = [this] { describing.start(); };
-    QObject::connect(&controller(), &SimulatedController::changed, &mainWindow, describeSoon);
-    QObject::connect(&replay(), &Replay::moved, &mainWindow, describeSoon);
-    QObject::connect(&recorder(), &Recorder::started, &mainWindow, describeSoon);
-    QObject::connect(&recorder(), &Recorder::ended, &mainWindow, [=](const QString& problem) {
-        mainWindow.say(problem);
-        describeSoon();
-    });
     if (ModuleLoader::loadTranslation(&translator, setup.language, loader.fileName()))
         QCoreApplication::installTranslator(&translator);
 }
@@ -44,17 +27,40 @@ bool DevelopmentHost::start()
 {
     Q_INIT_RESOURCE(host); // ":/lock.png", from which the module's dialog takes its lock icon
     // The plug-in first: a program that cannot start must not begin a recording.
-    error = loader.load() ? backend.start() : loader.errorString();
-    mainWindow.addMenu(new RecordingMenu(this));
-    if (!isReplaying())
-        mainWindow.addMenu(new ControllerMenu(this));
+    if (reloadModule())
+        error = openRecordings();
     return placeModule();
+}
+
+/** Opens the recordings and connects to the controller. Returns why it cannot, or an empty text. */
+QString DevelopmentHost::openRecordings()
+{
+    if (isReplaying()) {
+        if (!recorded.open())
+            return recorded.problem();
+        setup.controllerName = tr("as recorded");
+        setup.state.description.clear();
+        setup.state.protocol = recorded.recordedController().protocol;
+        setup.state.model = recorded.recordedController().model;
+    }
+    if (!setup.record.isEmpty() && !commandRecorder.start(setup.record))
+        return commandRecorder.problem();
+    connectTo(setup.state);
+    return {};
+}
+
+/** Connects to a controller of this \a state: sets the versions, and tells the links. */
+void DevelopmentHost::connectTo(const ControllerState& state)
+{
+    backendVersions = versionsOf(state);
+    simulated.setState(state);
+    commandRecorder.connected(state.identity());
 }
 
 bool DevelopmentHost::restart(const ControllerState& state)
 {
     if (reloadModule())
-        backend.connectTo(state);
+        connectTo(state);
     return placeModule();
 }
 
@@ -62,23 +68,23 @@ QString DevelopmentHost::chooseController(const HostSetup& chosen)
 {
     if (isBusy())
         return tr(whyBusy);
-    initial.controllerName = chosen.controllerName;
-    initial.state = chosen.state;
-    return restart(chosen.state) ? QString() : error;
+    setup.controllerName = chosen.controllerName;
+    setup.state = chosen.state;
+    return restart(setup.state) ? QString() : error;
 }
 
 QString DevelopmentHost::startRecording(const QString& file)
 {
     if (isBusy())
         return tr(whyBusy);
-    return backend.recorder().start(file) ? QString() : recorder().problem();
+    return commandRecorder.start(file) ? QString() : commandRecorder.problem();
 }
 
 QString DevelopmentHost::stopRecording()
 {
     if (isBusy())
         return tr(whyBusy);
-    backend.recorder().stop();
+    commandRecorder.stop();
     return {};
 }
 
@@ -86,31 +92,33 @@ QString DevelopmentHost::rewindReplay()
 {
     if (isBusy())
         return tr(whyBusy);
-    if (reloadModule())
-        backend.rewind();
-    return placeModule() ? QString() : error;
+    recorded.rewind();
+    return restart(simulated.state()) ? QString() : error;
 }
 
 QString DevelopmentHost::changeState(const ControllerState& state)
 {
-    if (channel().isBusy())
+    if (commandChannel.isBusy())
         return tr("a command is under way; try again when it is answered");
     const VersionInfo direct(0, 13, -1);
-    const bool isOtherPath = (state.protocol < direct) != (versions().protocol() < direct);
+    const bool isOtherPath = (state.protocol < direct) != (backendVersions.protocol() < direct);
     if (isOtherPath && isBusy())
         return tr("protocol: close the dialog first; across 0.13 the module is loaded anew");
     if (isOtherPath)
         return restart(state) ? QString() : error;
-    backend.setState(state);
+    if (backendVersions.protocol() == state.protocol && backendVersions.hubModel() == state.model)
+        simulated.setState(state);
+    else
+        connectTo(state);
     return {};
 }
 
-bool DevelopmentHost::isBusy()
+bool DevelopmentHost::isBusy() const
 {
-    return QApplication::activeModalWidget() || channel().isBusy();
+    return QApplication::activeModalWidget() || commandChannel.isBusy();
 }
 
-/** Loads the module anew; it has no place yet. */
+/** Loads the module, anew if there is one; it has no place yet. */
 bool DevelopmentHost::reloadModule()
 {
     loader.unload();
@@ -123,54 +131,27 @@ bool DevelopmentHost::placeModule()
 {
     if (!error.isEmpty())
         return false;
-    loader.setParameters(&backend.channel(), &mainWindow, &backend.versions(), false);
+    loader.setParameters(&commandChannel, &mainWindow, &backendVersions, false);
     loader.placeElements(mainWindow.menuBar());
     loader.setMeasurementRunning(mainWindow.isMeasurementRunning());
     entry().menu_entry->setShortcutContext(Qt::ApplicationShortcut); // in the workbench as well
-    describe();
+    mainWindow.describe();
     return true;
 }
 
 QString DevelopmentHost::identity() const
 {
-    return QString("Development Host %1, %2, controller %3")
-        .arg(HOST_VERSION, nameOf(loader.module()), controllerText());
+    return QString("Development Host %1, %2, controller %3").arg(HOST_VERSION, moduleText(), controllerText());
 }
 
-/** "built-in", "full: Protocol 1.23 with everything", or that it is a recorded one. */
+QString DevelopmentHost::moduleText() const
+{
+    const ModuleInterface* module = loader.module();
+    return module ? module->get_module_name() + ' ' + module->get_module_version() : tr("no module");
+}
+
 QString DevelopmentHost::controllerText() const
 {
-    const QString description = controller().state().description;
-    if (isReplaying())
-        return tr("as recorded");
-    return description.isEmpty() ? initial.controllerName : initial.controllerName + ": " + description;
-}
-
-/** Tells the main window what the host is now. */
-void DevelopmentHost::describe()
-{
-    const ModuleInterface* module = loader.module();
-    if (!module)
-        return;
-    const QString name = isReplaying() ? tr("as recorded") : initial.controllerName;
-    QStringList recordings;
-    if (recorder().isRecording())
-        recordings.append(tr("recording %1").arg(QFileInfo(recorder().fileName()).fileName()));
-    if (isReplaying())
-        recordings.append(tr("replaying %1").arg(QFileInfo(replay().fileName()).fileName()));
-    const QString recordingBrief = recordings.join(", ");
-    const QStringList brief = QStringList{name, tr("protocol %1").arg(versions().protocol().toString())} + recordings;
-    if (isReplaying())
-        recordings.append(replay().progress());
-    mainWindow.describe({controllerText(), versions().protocol().toString() + ", " + versions().hubModel(),
-                         nameOf(module) + ", " + loader.fileName(),
-                         recordings.isEmpty() ? tr("none") : recordings.join(", "), recordingBrief, brief.join(", ")});
-}
-
-void DevelopmentHost::about()
-{
-    const ModuleInterface* module = loader.module();
-    const QString text = tr("Development Host %1\n%2\nQt %3");
-    QMessageBox::about(&mainWindow, tr("About"),
-                       text.arg(QString(HOST_VERSION), module ? nameOf(module) : error, QString(qVersion())));
+    const QString description = simulated.state().description;
+    return description.isEmpty() ? controllerName() : controllerName() + ": " + description;
 }

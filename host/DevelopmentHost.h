@@ -1,16 +1,27 @@
 #pragma once
 
-#include "Backend.h"
+#include "BackendVersions.h"
+#include "ControllerChannel.h"
+#include "Faults.h"
+#include "HostSetup.h"
 #include "MainWindow.h"
 #include "ModuleLoader.h"
+#include "Recorder.h"
+#include "Replay.h"
+#include "SimulatedController.h"
 
+#include <QCoreApplication>
 #include <QDialog>
-#include <QTimer>
 #include <QTranslator>
 
-/** The host: a controller, the main window, and the module in its menu. Needs a QApplication. */
+/**
+ * The host: a controller, the main window, and the module in its menu. Commands go from the channel through recorder
+ * and faults to the simulated controller, or to the recording that replaces it. Needs a QApplication.
+ */
 class DevelopmentHost
 {
+    Q_DECLARE_TR_FUNCTIONS(DevelopmentHost)
+
 public:
     explicit DevelopmentHost(const HostSetup& setup);
 
@@ -24,7 +35,7 @@ public:
     // What the menus do. Each returns why it cannot, or an empty text. While the dialog is open or opening, none can.
     /** Restarts with the controller \a chosen, to which resetController() goes back from then on. */
     QString chooseController(const HostSetup& chosen);
-    QString resetController() { return chooseController(initial); }
+    QString resetController() { return chooseController(setup); }
     QString startRecording(const QString& file);
     QString stopRecording();
     /** Answers from the beginning of the recording again, and restarts the module. Only while replaying. */
@@ -37,8 +48,15 @@ public:
     QString changeState(const ControllerState& state);
 
     /** Whether a dialog is open or a command is under way, so that the module must neither end nor change hands. */
-    bool isBusy();
+    bool isBusy() const;
 
+    /** The name of the controller as it was chosen, or "as recorded". */
+    QString controllerName() const { return setup.controllerName; }
+    /** The same with its description: "full: Protocol 1.23 with everything". */
+    QString controllerText() const;
+    /** Name and version of the module, or "no module". */
+    QString moduleText() const;
+    QString moduleFile() const { return loader.fileName(); }
     /** Names host, module and controller in one line: "Development Host 1.2.7, ..., controller built-in". */
     QString identity() const;
     /** The module's menu entry. Only after start(). */
@@ -47,26 +65,29 @@ public:
     QDialog* dialog() const { return qobject_cast<QDialog*>(entry().content); }
 
     MainWindow& window() { return mainWindow; }
-    Faults& faults() { return backend.faults(); }
-    const ControllerChannel& channel() { return backend.channel(); }
-    const BackendVersions& versions() { return backend.versions(); }
-    const SimulatedController& controller() const { return backend.controller(); }
-    const Replay& replay() const { return backend.replay(); }
-    const Recorder& recorder() { return backend.recorder(); }
-    bool isReplaying() const { return backend.isReplaying(); }
+    Faults& faults() { return faultLayer; }
+    const ControllerChannel& channel() const { return commandChannel; }
+    const BackendVersions& versions() const { return backendVersions; }
+    const SimulatedController& controller() const { return simulated; }
+    const Replay& replay() const { return recorded; }
+    const Recorder& recorder() const { return commandRecorder; }
+    bool isReplaying() const { return !setup.replay.isEmpty(); }
 
 private:
+    QString openRecordings();
+    void connectTo(const ControllerState& state);
     bool reloadModule();
     bool placeModule();
-    QString controllerText() const;
-    void describe();
-    void about();
 
-    HostSetup initial; // the controller as it was chosen
+    HostSetup setup; // with the controller as it was chosen
     QString error;
-    Backend backend;
+    SimulatedController simulated;
+    Replay recorded;
+    Faults faultLayer;
+    Recorder commandRecorder;
+    ControllerChannel commandChannel;
+    BackendVersions backendVersions;
     MainWindow mainWindow;
     QTranslator translator;
-    QTimer describing;   // describes once, however much has changed
     ModuleLoader loader; // last, so that the module ends before the objects it uses
 };

@@ -1,62 +1,34 @@
 #include "MainWindow.h"
 
+#include "DevelopmentHost.h"
+
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QStatusBar>
 #include <QStyle>
-#include <QWhatsThis>
 
-static constexpr int helpOrder = 10000; // behind every module's menu
-static constexpr int columns = 45;      // of text in a row, in average characters
+static constexpr int columns = 45; // of text in a row, in average characters
 
-MainWindow::MainWindow(std::function<bool()> isBusy)
-    : isBusy(std::move(isBusy)), notice(new QLabel), recordingState(new QLabel),
+MainWindow::MainWindow(DevelopmentHost* host)
+    : host(host), notice(new QLabel), recordingState(new QLabel),
       measurementState(new QLabel(tr("Measurement running")))
 {
     setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon));
     // A modal dialog blocks only windows of the same group: the workbench, which has no parent, stays usable.
     setAttribute(Qt::WA_GroupLeader);
-    createMenus();
     createRows();
+    createHostMenu();
+    createRecordingMenu();
+    if (!host->isReplaying())
+        createControllerMenu();
+    createHelpMenu();
     statusBar()->addPermanentWidget(measurementState);
     statusBar()->addPermanentWidget(recordingState);
     measurementState->hide();
-    connect(measurement, &QAction::toggled, measurementState, &QWidget::setVisible);
-}
-
-void MainWindow::createMenus()
-{
-    QMenu* menu = menuBar()->addMenu(tr("Ho&st"));
-    const auto add = [&](const QString& text, const QString& shortcut, const QString& tip) {
-        QAction* action = menu->addAction(text);
-        action->setShortcut(QKeySequence(shortcut));
-        action->setShortcutContext(Qt::ApplicationShortcut); // in the workbench as well
-        action->setStatusTip(tip);
-        return action;
-    };
-    measurement =
-        add(tr("&Measurement running"), tr("Ctrl+M"), tr("Disables the entries of modules that must not run then"));
-    measurement->setObjectName("measurement");
-    measurement->setCheckable(true);
-    connect(measurement, &QAction::triggered, this, &MainWindow::measurementSwitched);
-    connect(add(tr("&Workbench"), tr("Ctrl+B"), tr("Brings the workbench to the front")), &QAction::triggered, this,
-            &MainWindow::workbenchWanted);
-    menu->addSeparator();
-    connect(add(tr("&Quit"), tr("Ctrl+Q"), tr("Ends the host")), &QAction::triggered, this, &QWidget::close);
-    menu = menuBar()->addMenu(tr("&Help"));
-    help = menu->menuAction();
-    help->setProperty("orderNumber", helpOrder);
-    menu->addAction(QWhatsThis::createAction(this));
-    menu->addAction(tr("&About"), this, &MainWindow::aboutWanted);
-}
-
-void MainWindow::addMenu(QMenu* menu)
-{
-    menuBar()->insertMenu(help, menu);
+    followHost();
 }
 
 void MainWindow::createRows()
@@ -83,14 +55,40 @@ void MainWindow::createRows()
     setCentralWidget(center);
 }
 
-void MainWindow::describe(const HostFacts& facts)
+/** Describes the host again whenever the controller or a recording has changed. */
+void MainWindow::followHost()
 {
-    const QStringList texts = {facts.controller, facts.protocol, facts.module, facts.recording};
+    describing.setSingleShot(true);
+    connect(&describing, &QTimer::timeout, this, &MainWindow::describe);
+    const auto describeSoon = [this] { describing.start(); };
+    connect(&host->controller(), &SimulatedController::changed, this, describeSoon);
+    connect(&host->replay(), &Replay::moved, this, describeSoon);
+    connect(&host->recorder(), &Recorder::started, this, describeSoon);
+    connect(&host->recorder(), &Recorder::ended, this, describeSoon);
+    connect(&host->recorder(), &Recorder::ended, this, &MainWindow::say);
+}
+
+void MainWindow::describe()
+{
+    if (!host->errorString().isEmpty())
+        return;
+    QStringList recordings;
+    if (host->recorder().isRecording())
+        recordings.append(tr("recording %1").arg(QFileInfo(host->recorder().fileName()).fileName()));
+    if (host->isReplaying())
+        recordings.append(tr("replaying %1").arg(QFileInfo(host->replay().fileName()).fileName()));
+    recordingState->setText(recordings.join(", "));
+    const QString protocol = host->versions().protocol().toString();
+    const QStringList brief = QStringList{host->controllerName(), tr("protocol %1").arg(protocol)} + recordings;
+    setWindowTitle(tr("%1 - Development Host").arg(brief.join(", ")));
+    if (host->isReplaying())
+        recordings.append(host->replay().progress());
+    const QStringList texts = {host->controllerText(), protocol + ", " + host->versions().hubModel(),
+                               host->moduleText() + ", " + host->moduleFile(),
+                               recordings.isEmpty() ? tr("none") : recordings.join(", ")};
     for (int i = 0; i < rows.size(); ++i)
         rows.at(i)->setText(texts.at(i));
-    recordingState->setText(facts.recordingBrief);
-    setWindowTitle(tr("%1 - Development Host").arg(facts.brief));
-    emit described(facts.brief);
+    emit described(brief.join(", "));
 }
 
 void MainWindow::say(const QString& text)
@@ -101,7 +99,7 @@ void MainWindow::say(const QString& text)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(!isBusy());
+    event->setAccepted(!host->isBusy());
     if (event->isAccepted())
         QApplication::quit();
 }

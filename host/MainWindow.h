@@ -2,46 +2,34 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <QTimer>
 
-#include <functional>
-
+class DevelopmentHost;
 class QLabel;
 
-/** What the host is: its controller, its module, its recordings. Each text is one line for the main window. */
-struct HostFacts
-{
-    QString controller;
-    QString protocol;
-    QString module;
-    QString recording;
-    QString recordingBrief; // empty: there is none
-    QString brief;          // controller and recordings, for the titles
-};
-
-/** The host's window with the menus. While a module's dialog is open, it blocks this window, but not the workbench. */
+/**
+ * The host's window with the menus. It names the controller, the module and the recordings. While a module's dialog is
+ * open, it blocks this window, but not the workbench. Does not own the host.
+ */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /** While \a isBusy returns true the window does not close. */
-    explicit MainWindow(std::function<bool()> isBusy);
+    /** \a host has a controller and recordings, but no module yet. */
+    explicit MainWindow(DevelopmentHost* host);
 
     bool isMeasurementRunning() const { return measurement->isChecked(); }
 
-    /** Adds \a menu behind those that are there, but before Help. Does not take ownership. */
-    void addMenu(QMenu* menu);
-
-    /** Shows \a facts in rows, and briefly in the title. */
-    void describe(const HostFacts& facts);
+    /** Shows in rows, and briefly in the title, what the host is now, if it has a module. */
+    void describe();
     /** Shows \a text, such as why something was refused, until the next one; an empty text hides it. */
     void say(const QString& text);
 
 signals:
     void measurementSwitched(bool isOn);
     void workbenchWanted();
-    void aboutWanted();
-    /** The facts have changed; \a brief is the text for titles. */
+    /** What the host is has changed; \a brief is the text for titles. */
     void described(const QString& brief);
 
 protected:
@@ -49,14 +37,24 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createMenus();
+    // MainWindow.cpp
     void createRows();
+    void followHost();
+    // MainWindow_menus.cpp
+    void createHostMenu();
+    void createRecordingMenu();
+    void createControllerMenu();
+    void createHelpMenu();
+    void startRecording();
+    void openController();
+    void saveController();
+    void about();
 
-    std::function<bool()> isBusy;
+    DevelopmentHost* host;
     QAction* measurement = nullptr;
-    QAction* help = nullptr;
     QList<QLabel*> rows;
     QLabel* notice;
     QLabel* recordingState;
     QLabel* measurementState;
+    QTimer describing; // describes once, however much has changed
 };
