@@ -2,8 +2,6 @@
 
 #include <QApplication>
 
-static const char* const whyBusy = QT_TRANSLATE_NOOP("DevelopmentHost", "Close the dialog first.");
-
 static BackendVersions versionsOf(const ControllerState& controller)
 {
     return {{1, 0, 0}, controller.protocol, {1, 0, 0}, controller.model};
@@ -66,8 +64,8 @@ bool DevelopmentHost::restart(const ControllerState& state)
 
 QString DevelopmentHost::chooseController(const HostSetup& chosen)
 {
-    if (isBusy())
-        return tr(whyBusy);
+    if (!whyBusy().isEmpty())
+        return whyBusy();
     setup.controllerName = chosen.controllerName;
     setup.state = chosen.state;
     return restart(setup.state) ? QString() : error;
@@ -75,23 +73,23 @@ QString DevelopmentHost::chooseController(const HostSetup& chosen)
 
 QString DevelopmentHost::startRecording(const QString& file)
 {
-    if (isBusy())
-        return tr(whyBusy);
+    if (!whyBusy().isEmpty())
+        return whyBusy();
     return commandRecorder.start(file) ? QString() : commandRecorder.problem();
 }
 
 QString DevelopmentHost::stopRecording()
 {
-    if (isBusy())
-        return tr(whyBusy);
+    if (!whyBusy().isEmpty())
+        return whyBusy();
     commandRecorder.stop();
     return {};
 }
 
 QString DevelopmentHost::rewindReplay()
 {
-    if (isBusy())
-        return tr(whyBusy);
+    if (!whyBusy().isEmpty())
+        return whyBusy();
     recorded.rewind();
     return restart(simulated.state()) ? QString() : error;
 }
@@ -99,10 +97,10 @@ QString DevelopmentHost::rewindReplay()
 QString DevelopmentHost::changeState(const ControllerState& state)
 {
     if (commandChannel.isBusy())
-        return tr("a command is under way; try again when it is answered");
+        return whyBusy();
     const VersionInfo direct(0, 13, -1);
     const bool isOtherPath = (state.protocol < direct) != (backendVersions.protocol() < direct);
-    if (isOtherPath && isBusy())
+    if (isOtherPath && !whyBusy().isEmpty())
         return tr("protocol: close the dialog first; across 0.13 the module is loaded anew");
     if (isOtherPath)
         return restart(state) ? QString() : error;
@@ -113,9 +111,11 @@ QString DevelopmentHost::changeState(const ControllerState& state)
     return {};
 }
 
-bool DevelopmentHost::isBusy() const
+QString DevelopmentHost::whyBusy() const
 {
-    return QApplication::activeModalWidget() || commandChannel.isBusy();
+    if (commandChannel.isBusy())
+        return tr("A command is under way; try again when it is answered.");
+    return QApplication::activeModalWidget() ? tr("Close the dialog first.") : QString();
 }
 
 /** Loads the module, anew if there is one; it has no place yet. */

@@ -47,8 +47,8 @@ public:
      */
     QString changeState(const ControllerState& state);
 
-    /** Whether a dialog is open or a command is under way, so that the module must neither end nor change hands. */
-    bool isBusy() const;
+    /** A dialog is open, or a command is under way: the module must neither end nor change hands. Else empty. */
+    QString whyBusy() const;
 
     /** The name of the controller as it was chosen, or "as recorded". */
     QString controllerName() const { return setup.controllerName; }

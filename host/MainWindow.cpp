@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "CommandTraits.h"
 #include "DevelopmentHost.h"
 
 #include <QApplication>
@@ -66,6 +67,10 @@ void MainWindow::followHost()
     connect(&host->recorder(), &Recorder::started, this, describeSoon);
     connect(&host->recorder(), &Recorder::ended, this, describeSoon);
     connect(&host->recorder(), &Recorder::ended, this, &MainWindow::say);
+    connect(&host->channel(), &ControllerChannel::executed, this, [this](const CommandRecord& record) {
+        if (traitsOf(record.text()).beginsOpening)
+            say({});
+    });
 }
 
 void MainWindow::describe()
@@ -79,7 +84,9 @@ void MainWindow::describe()
         recordings.append(tr("replaying %1").arg(QFileInfo(host->replay().fileName()).fileName()));
     recordingState->setText(recordings.join(", "));
     const QString protocol = host->versions().protocol().toString();
-    const QStringList brief = QStringList{host->controllerName(), tr("protocol %1").arg(protocol)} + recordings;
+    const QStringList brief = recordings
+                              + QStringList{host->controllerName(), tr("protocol %1").arg(protocol),
+                                            tr("process %1").arg(QCoreApplication::applicationPid())};
     setWindowTitle(tr("%1 - Development Host").arg(brief.join(", ")));
     if (host->isReplaying())
         recordings.append(host->replay().progress());
@@ -88,6 +95,7 @@ void MainWindow::describe()
                                recordings.isEmpty() ? tr("none") : recordings.join(", ")};
     for (int i = 0; i < rows.size(); ++i)
         rows.at(i)->setText(texts.at(i));
+    growToFit();
     emit described(brief.join(", "));
 }
 
@@ -95,11 +103,22 @@ void MainWindow::say(const QString& text)
 {
     notice->setText(text);
     notice->setVisible(!text.isEmpty());
+    growToFit();
+}
+
+/** The window's layout does not ask for the height of texts that are wrapped. */
+void MainWindow::growToFit()
+{
+    const QWidget* center = centralWidget();
+    const int missing = center->layout()->totalHeightForWidth(center->width()) - center->height();
+    if (isVisible() && missing > 0)
+        resize(width(), height() + missing);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(!host->isBusy());
+    say(host->whyBusy());
+    event->setAccepted(host->whyBusy().isEmpty());
     if (event->isAccepted())
         QApplication::quit();
 }

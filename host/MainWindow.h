@@ -23,7 +23,8 @@ public:
 
     /** Shows in rows, and briefly in the title, what the host is now, if it has a module. */
     void describe();
-    /** Shows \a text, such as why something was refused, until the next one; an empty text hides it. */
+    /** Shows \a text, such as why something was refused, until the next one or the next opening. An empty text hides
+     * it. */
     void say(const QString& text);
 
 signals:
@@ -40,6 +41,7 @@ private:
     // MainWindow.cpp
     void createRows();
     void followHost();
+    void growToFit();
     // MainWindow_menus.cpp
     void createHostMenu();
     void createRecordingMenu();

@@ -56,14 +56,18 @@ void MainWindow::createRecordingMenu()
 void MainWindow::createControllerMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Controller"));
-    add(menu, tr("&Reset"), tr("Puts the controller back to how it began"), [this] { say(host->resetController()); });
+    add(menu, tr("&Reset"), tr("Puts the controller back to how it was chosen"),
+        [this] { say(host->resetController()); });
     add(menu, tr("&Open..."), tr("Reads a controller file"), [this] { openController(); });
     add(menu, tr("&Save as..."), tr("Writes the controller's present state into a file"), [this] { saveController(); });
     menu->addSeparator();
+    menu->setToolTipsVisible(true); // the open menu may hide the status bar
     QVector<HostSetup> controllers;
     say(readNamedControllers(&controllers));
     for (const HostSetup& named : qAsConst(controllers))
-        add(menu, named.controllerName, named.state.description, [this, named] { say(host->chooseController(named)); });
+        add(menu, named.controllerName, named.state.description, [this, named] {
+            say(host->chooseController(named));
+        })->setToolTip(named.state.description);
 }
 
 void MainWindow::createHelpMenu()

@@ -4,6 +4,7 @@
 #include "Workbench.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
@@ -45,14 +46,15 @@ int main(int argc, char* argv[])
     DevelopmentHost host(options.setup());
     Workbench workbench(&host);
     QObject::connect(&host.replay(), &Replay::differed, &fail);
+    auto* step = new QLabel;
+    host.window().statusBar()->addWidget(step);
+    QObject::connect(&workbench, &Workbench::stepCounted, step, &QLabel::setText);
+    if (!host.start())
+        return fail(host.errorString());
     QObject::connect(&host.recorder(), &Recorder::ended, [](const QString& problem) {
         if (!problem.isEmpty())
             fail(problem);
     });
-    QObject::connect(&workbench, &Workbench::stepCounted, host.window().statusBar(),
-                     [&](const QString& text) { host.window().statusBar()->showMessage(text); });
-    if (!host.start())
-        return fail(host.errorString());
     placeWindows(host.window(), host.dialog()->sizeHint(), workbench,
                  QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight));
     workbench.show();

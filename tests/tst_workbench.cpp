@@ -84,8 +84,10 @@ QByteArray recorded(const QString& file)
     problem += host.window().windowTitle() + host.stopRecording() + host.startRecording(file);
     const QString refused = "Close the dialog first.";
     return problem
-                   == refused + refused + refused + "full, protocol 1.23.0, recording a - Development Host" + file
-                          + ": this file exists; name another one, or remove it first"
+                   == refused + refused + refused
+                          + QString("recording a, full, protocol 1.23.0, process %1 - Development Host")
+                                .arg(QCoreApplication::applicationPid())
+                          + file + ": this file exists; name another one, or remove it first"
                ? readFile(file)
                : problem.toUtf8();
 }

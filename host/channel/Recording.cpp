@@ -39,15 +39,21 @@ QByteArray unescaped(const QString& text)
     return bytes;
 }
 
+/** Why the line \a text cannot stand in a recording, whatever it says; a null reason when it can. */
+QString refusal(const QString& text)
+{
+    const auto* const control = std::find_if(text.begin(), text.end(), isControl);
+    if (control == text.end())
+        return {};
+    return QString(R"(a control character, code %1; it is written "%2")")
+        .arg(QString::number(control->unicode()), QString::fromUtf8(escaped(QByteArray(1, control->toLatin1()))));
+}
+
 /** Reads one line; a null reason when it is whole. */
 QString readLine(const QString& text, RecordedLine* line)
 {
     static const QRegularExpression form(R"(^(\S+) ((\S+) .*?)( ->(?: (.*))?| failed)$)");
     static const QRegularExpression escapes(R"(^(?:[^\\]|\\[nr\\-]|\\x[0-9a-f]{2})*$)");
-    const auto* const control = std::find_if(text.begin(), text.end(), isControl);
-    if (control != text.end())
-        return QString(R"(a control character, code %1; it is written "%2")")
-            .arg(QString::number(control->unicode()), QString::fromUtf8(escaped(QByteArray(1, control->toLatin1()))));
     if (QString::fromLatin1(text.toLatin1()) != text)
         return "a character that is not Latin-1, or no UTF-8";
     if (!escapes.match(text).hasMatch())
@@ -107,7 +113,8 @@ bool readRecording(const QString& file, QVector<RecordedLine>* lines, QString* e
     int number = 1;
     for (; reason.isEmpty() && number < texts.size(); ++number) {
         RecordedLine line{{}, true, {}, number + 1};
-        if (texts.at(number).isEmpty() || texts.at(number).startsWith('#'))
+        reason = refusal(texts.at(number));
+        if (!reason.isEmpty() || texts.at(number).isEmpty() || texts.at(number).startsWith('#'))
             continue;
         reason = readLine(texts.at(number), &line);
         lines->append(line);

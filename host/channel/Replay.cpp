@@ -30,7 +30,10 @@ bool Replay::isAtEnd() const
 QString Replay::progress() const
 {
     const QString next = isAtEnd() ? "the end" : QString::fromLatin1(lines.at(nextCommand()).text);
-    return QString("%1 of %2, next: %3").arg(position).arg(lines.size()).arg(next);
+    return QString("%1 of %2, %3")
+        .arg(nextCommand())
+        .arg(lines.size())
+        .arg(firstProblem.isEmpty() ? "next: " + next : "then a command differed");
 }
 
 void Replay::rewind()

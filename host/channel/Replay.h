@@ -29,7 +29,9 @@ public:
 
     /** Whether every command of the recording has been asked. */
     bool isAtEnd() const;
-    /** "42 of 214, next: get synccard source d01": how many lines are done, and the command that is due. */
+    /** "42 of 214, next: get synccard source d01": how many lines are done, and the command that is due, if none
+     * differed.
+     */
     QString progress() const;
     /** Goes back to the beginning, also after a difference. */
     void rewind();

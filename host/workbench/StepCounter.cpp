@@ -5,6 +5,8 @@
 
 #include <QApplication>
 
+static constexpr int boxPollMilliseconds = 50;
+
 StepCounter::StepCounter(DevelopmentHost* host, QObject* parent) : QObject(parent), host(host)
 {
     pause.setSingleShot(true);
@@ -21,7 +23,10 @@ void StepCounter::add(const CommandRecord& record)
     }
     if (traitsOf(record.text()).isPolled)
         return;
-    microseconds = commands == 0 ? record.microseconds : microseconds + sinceLast.nsecsElapsed() / 1000;
+    const bool isAfterPause = commands == 0 || hasWaited;
+    microseconds =
+        (commands == 0 ? 0 : microseconds) + (isAfterPause ? record.microseconds : sinceLast.nsecsElapsed() / 1000);
+    hasWaited = false;
     sinceLast.start();
     ++commands;
     isOpening = !dialog->isVisible();
@@ -31,8 +36,12 @@ void StepCounter::add(const CommandRecord& record)
 /** The event loop runs, which ends an opening or a new source, unless it runs in a command or a message box. */
 void StepCounter::endPause()
 {
-    if (!dialog || host->channel().isBusy() || (dialog->isVisible() && QApplication::activeModalWidget() != dialog))
+    if (!dialog || host->channel().isBusy())
         return;
+    if (dialog->isVisible() && QApplication::activeModalWidget() != dialog) {
+        hasWaited = true; // somebody reads a message box, which is no time of the step
+        return pause.start(boxPollMilliseconds);
+    }
     if (isOpening)
         end(dialog->isVisible() ? tr("Opening") : tr("Opening without a dialog"));
     commands = 0;

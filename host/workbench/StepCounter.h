@@ -34,5 +34,6 @@ private:
     QElapsedTimer sinceLast; // since the last command was answered
     qint64 microseconds = 0; // from the begin of the first command to there
     int commands = 0;
+    bool hasWaited = false; // for somebody, since the last command
     bool isOpening = false;
 };

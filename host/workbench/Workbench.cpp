@@ -1,6 +1,7 @@
 #include "Workbench.h"
 
 #include "CommandPane.h"
+#include "CommandTraits.h"
 #include "ControllerPane.h"
 #include "DevelopmentHost.h"
 #include "ReportPane.h"
@@ -12,6 +13,18 @@
 
 static constexpr QSize initialSize(960, 560);
 
+/** How far a replay is, and in \a message how it differed. */
+static QLabel* createProgress(DevelopmentHost* host, QLabel* message)
+{
+    auto* progress = new QLabel;
+    progress->setTextFormat(Qt::PlainText);
+    QObject::connect(&host->replay(), &Replay::moved, progress, [host, progress, message] {
+        progress->setText(host->replay().progress());
+        message->setText(host->replay().problem());
+    });
+    return progress;
+}
+
 Workbench::Workbench(DevelopmentHost* host)
 {
     connect(&host->window(), &MainWindow::described, this,
@@ -22,7 +35,11 @@ Workbench::Workbench(DevelopmentHost* host)
     message->setObjectName("message");
     message->setTextFormat(Qt::PlainText);
     message->setWordWrap(true);
-    connect(&host->replay(), &Replay::differed, message, &QLabel::setText);
+    connect(&host->recorder(), &Recorder::ended, message, &QLabel::setText);
+    connect(&host->channel(), &ControllerChannel::executed, message, [message](const CommandRecord& record) {
+        if (traitsOf(record.text()).beginsOpening)
+            message->clear();
+    });
     auto* commands = new CommandPane(host);
     connect(commands, &CommandPane::said, message, &QLabel::setText);
     auto* tabs = new QTabWidget;
@@ -40,6 +57,8 @@ Workbench::Workbench(DevelopmentHost* host)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs);
     layout->addWidget(message);
+    if (host->isReplaying())
+        layout->addWidget(createProgress(host, message));
     auto* counter = new StepCounter(host, this);
     connect(counter, &StepCounter::counted, this, &Workbench::stepCounted);
     auto* step = new QLabel;
