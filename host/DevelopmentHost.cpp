@@ -34,17 +34,18 @@ bool DevelopmentHost::start()
 QString DevelopmentHost::openRecordings()
 {
     if (isReplaying()) {
-        if (!recorded.open())
-            return recorded.problem();
+        const QString problem = recorded.open();
+        if (!problem.isEmpty())
+            return problem;
         setup.controllerName = tr("as recorded");
         setup.state.description.clear();
         setup.state.protocol = recorded.recordedController().protocol;
         setup.state.model = recorded.recordedController().model;
     }
-    if (!setup.record.isEmpty() && !commandRecorder.start(setup.record))
-        return commandRecorder.problem();
-    connectTo(setup.state);
-    return {};
+    const QString problem = setup.record.isEmpty() ? QString() : commandRecorder.start(setup.record);
+    if (problem.isEmpty())
+        connectTo(setup.state);
+    return problem;
 }
 
 /** Connects to a controller of this \a state: sets the versions, and tells the links. */
@@ -73,9 +74,7 @@ QString DevelopmentHost::chooseController(const HostSetup& chosen)
 
 QString DevelopmentHost::startRecording(const QString& file)
 {
-    if (!whyBusy().isEmpty())
-        return whyBusy();
-    return commandRecorder.start(file) ? QString() : commandRecorder.problem();
+    return whyBusy().isEmpty() ? commandRecorder.start(file) : whyBusy();
 }
 
 QString DevelopmentHost::stopRecording()

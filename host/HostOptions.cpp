@@ -3,10 +3,15 @@
 #include "Console.h"
 #include "Faults.h"
 #include "ModuleLoader.h"
-#include "NamedControllers.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
+
+static bool printed(const QString& text)
+{
+    print(text);
+    return false;
+}
 
 HostOptions::HostOptions(const QString& description, ReplayedController replayed) : replayed(replayed)
 {
@@ -32,9 +37,9 @@ bool HostOptions::parse(int argc, char* argv[])
     if (!parser.positionalArguments().isEmpty())
         return refuse("Unexpected argument '" + parser.positionalArguments().constFirst() + "'. See --help.");
     if (parser.isSet("help"))
-        return endWith(parser.helpText().chopped(1), 0);
+        return printed(parser.helpText().chopped(1));
     if (parser.isSet("version"))
-        return endWith(QCoreApplication::applicationName() + " " HOST_VERSION, 0);
+        return printed(QCoreApplication::applicationName() + " " HOST_VERSION);
     if (parser.isSet("list"))
         return listControllers();
     host.pluginFile = parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
@@ -54,7 +59,7 @@ bool HostOptions::listControllers()
     QStringList lines;
     for (const HostSetup& listed : qAsConst(controllers))
         lines.append(listed.controllerName.leftJustified(width) + "  " + listed.state.description);
-    return problem.isEmpty() ? endWith(lines.join('\n'), 0) : refuse(problem);
+    return problem.isEmpty() ? printed(lines.join('\n')) : refuse(problem);
 }
 
 /** The user's first language may lack a translation; one that is asked for may not, unless it is English. */
@@ -117,16 +122,8 @@ bool HostOptions::checkReplay()
     return true;
 }
 
-bool HostOptions::endWith(const QString& text, int status)
+bool HostOptions::refuse(const QString& message)
 {
-    itsEnding = {text, status};
+    itsStatus = fail(message);
     return false;
-}
-
-int endProgram(const Ending& ending)
-{
-    if (ending.status != 0)
-        return fail(ending.text);
-    print(ending.text);
-    return 0;
 }

@@ -4,16 +4,6 @@
 
 #include <QCommandLineParser>
 
-/** How a program ends right after its command line was read. */
-struct Ending
-{
-    QString text;
-    int status = 0;
-};
-
-/** Prints the ending's text, on standard error unless the status is 0, and returns the status. */
-int endProgram(const Ending& ending);
-
 /** Parses the command line of the host's programs, to which a program may add options. --help describes them. */
 class HostOptions
 {
@@ -28,11 +18,11 @@ public:
 
     /**
      * Reads the program's arguments, before there is a QApplication: QApplication takes --plugin for itself and needs a
-     * display. Returns false when the program must end with ending(): after --help, --version or --list, and with
-     * status 2 after a mistake.
+     * display. Returns false when the program must end with status(): 0 after --help, --version or --list, which it
+     * has printed then, and 2 after a mistake, of which it has told.
      */
     bool parse(int argc, char* argv[]);
-    const Ending& ending() const { return itsEnding; }
+    int status() const { return itsStatus; }
 
     QString value(const QString& option) const { return parser.value(option); }
 
@@ -40,8 +30,7 @@ public:
     const HostSetup& setup() const { return host; }
 
 private:
-    bool endWith(const QString& text, int status);
-    bool refuse(const QString& message) { return endWith(message, 2); }
+    bool refuse(const QString& message);
     bool listControllers();
     bool readLanguage();
     bool readController();
@@ -53,5 +42,5 @@ private:
     QCommandLineParser parser;
     ReplayedController replayed;
     HostSetup host;
-    Ending itsEnding;
+    int itsStatus = 0;
 };

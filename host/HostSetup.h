@@ -4,6 +4,7 @@
 
 #include <QLocale>
 #include <QRegularExpression>
+#include <QVector>
 
 /** What the command line of a host program asks for. */
 struct HostSetup
@@ -17,3 +18,10 @@ struct HostSetup
     QRegularExpression failing;      // commands in which it is found fail
     int latency = 0;                 // milliseconds that each command takes longer
 };
+
+/** Reads the controller \a wanted, the name of a named one or a file, into \a setup. Returns why it cannot, or nothing.
+ */
+QString readController(const QString& wanted, HostSetup* setup);
+
+/** Reads all named controllers, by name, each a file NAME.json. Returns which of them is broken, or nothing. */
+QString readNamedControllers(QVector<HostSetup>* controllers);

@@ -14,7 +14,7 @@
 static constexpr int columns = 45; // of text in a row, in average characters
 
 MainWindow::MainWindow(DevelopmentHost* host)
-    : host(host), notice(new QLabel), recordingState(new QLabel),
+    : host(host), notice(new QLabel), step(new QLabel), recordingState(new QLabel),
       measurementState(new QLabel(tr("Measurement running")))
 {
     setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon));
@@ -26,6 +26,7 @@ MainWindow::MainWindow(DevelopmentHost* host)
     if (!host->isReplaying())
         createControllerMenu();
     createHelpMenu();
+    statusBar()->addWidget(step);
     statusBar()->addPermanentWidget(measurementState);
     statusBar()->addPermanentWidget(recordingState);
     measurementState->hide();

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QAction>
+#include <QLabel>
 #include <QMainWindow>
 #include <QTimer>
 
 class DevelopmentHost;
-class QLabel;
 
 /**
  * The host's window with the menus. It names the controller, the module and the recordings. While a module's dialog is
@@ -26,6 +26,8 @@ public:
     /** Shows \a text, such as why something was refused, until the next one or the next opening. An empty text hides
      * it. */
     void say(const QString& text);
+    /** Shows in the status bar what an opening or an exit of the dialog took. */
+    void showStep(const QString& text) { step->setText(text); }
 
 signals:
     void measurementSwitched(bool isOn);
@@ -56,6 +58,7 @@ private:
     QAction* measurement = nullptr;
     QList<QLabel*> rows;
     QLabel* notice;
+    QLabel* step;
     QLabel* recordingState;
     QLabel* measurementState;
     QTimer describing; // describes once, however much has changed

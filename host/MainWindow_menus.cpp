@@ -1,6 +1,5 @@
 #include "ControllerFile.h"
 #include "DevelopmentHost.h"
-#include "NamedControllers.h"
 
 #include <QFileDialog>
 #include <QLabel>
@@ -100,11 +99,10 @@ void MainWindow::saveController()
 {
     const QString file =
         QFileDialog::getSaveFileName(this, tr("Save the controller"), "controller.json", tr(fileFilter));
-    QString text = tr("Saved to %1").arg(file);
-    if (!file.isEmpty()) {
-        saveControllerFile(file, host->controller().state(), &text);
-        say(text);
-    }
+    if (file.isEmpty())
+        return;
+    const QString problem = saveControllerFile(file, host->controller().state());
+    say(problem.isEmpty() ? tr("Saved to %1").arg(file) : problem);
 }
 
 void MainWindow::about()

@@ -4,9 +4,7 @@
 #include "Workbench.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QScreen>
-#include <QStatusBar>
 #include <QStyle>
 
 static constexpr int gap = 12;             // pixels between windows, with room for their frames
@@ -33,7 +31,7 @@ int main(int argc, char* argv[])
 {
     HostOptions options("A window with the synccard module's menu entry, in front of a simulated controller.");
     if (!options.parse(argc, argv))
-        return endProgram(options.ending());
+        return options.status();
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
 #if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
@@ -46,9 +44,6 @@ int main(int argc, char* argv[])
     DevelopmentHost host(options.setup());
     Workbench workbench(&host);
     QObject::connect(&host.replay(), &Replay::differed, &fail);
-    auto* step = new QLabel;
-    host.window().statusBar()->addWidget(step);
-    QObject::connect(&workbench, &Workbench::stepCounted, step, &QLabel::setText);
     if (!host.start())
         return fail(host.errorString());
     QObject::connect(&host.recorder(), &Recorder::ended, [](const QString& problem) {

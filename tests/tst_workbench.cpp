@@ -1,9 +1,9 @@
-#include "ChoiceDelegate.h"
 #include "CommandPane.h"
-#include "ControllerModel.h"
+#include "ControllerPane.h"
 #include "DevelopmentHost.h"
 #include "Files.h"
 #include "LoadedModule.h"
+#include "StepCounter.h"
 #include "Workbench.h"
 
 #include <QAbstractItemModelTester>
@@ -154,7 +154,9 @@ void TestWorkbench::editsTheController()
     QCOMPARE(delay->index().siblingAtColumn(ControllerModel::UnitColumn).data().toString(), "ms");
     const auto* mode = model.findItems("activeMode", Qt::MatchRecursive).constFirst();
     const std::unique_ptr<QWidget> editor(
-        ChoiceDelegate().createEditor(nullptr, {}, mode->index().siblingAtColumn(ControllerModel::ValueColumn)));
+        ControllerPane(&host)
+            .itemDelegateForColumn(ControllerModel::ValueColumn)
+            ->createEditor(nullptr, {}, mode->index().siblingAtColumn(ControllerModel::ValueColumn)));
     const auto* box = qobject_cast<QComboBox*>(editor.get());
     QVERIFY(box);
     QCOMPARE(textOfWidget(box), "*none=|cam100=|cam200=|genlock=|slave= hidden");
@@ -192,8 +194,9 @@ void TestWorkbench::staysUsableBesideTheDialog()
     workbench.show();
     for (const char* name : {"commands", "reports"}) {
         QAbstractItemModel* shown = workbench.findChild<QTableView*>(name)->model();
-        const auto* proxy = qobject_cast<QSortFilterProxyModel*>(shown);
-        new QAbstractItemModelTester(proxy ? proxy->sourceModel() : shown, &workbench);
+        while (const auto* proxy = qobject_cast<QSortFilterProxyModel*>(shown))
+            shown = proxy->sourceModel();
+        new QAbstractItemModelTester(shown, &workbench);
     }
     auto* tabs = workbench.findChild<QTabBar*>();
     const auto rows = [&](const char* table) { return workbench.findChild<QTableView*>(table)->model()->rowCount(); };
@@ -232,7 +235,8 @@ void TestWorkbench::logsOpeningAndExit()
     workbench.findChildren<QCheckBox*>().constLast()->click(); // "wait in an event loop"
     host.faults().setLatency(1);
     QStringList steps;
-    connect(&workbench, &Workbench::stepCounted, this, [&](auto& text) { steps += text.section(',', 0, 0); });
+    connect(workbench.findChild<StepCounter*>(), &StepCounter::counted, this,
+            [&](auto& text) { steps += text.section(',', 0, 0); });
     open(host, raiseFrequency);
     QCOMPARE(steps, QStringList({"Opening: 40 commands", "OK: 14 commands"}));
     auto* table = workbench.findChild<QTableView*>("commands");

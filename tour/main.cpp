@@ -24,7 +24,7 @@ int main(int argc, char* argv[])
                         HostOptions::Compared);
     options.addOption({"pictures", "Saves a picture of each state into <folder>.", "folder"});
     if (!options.parse(argc, argv))
-        return endProgram(options.ending());
+        return options.status();
     const QString pictures = options.value("pictures");
     if (!pictures.isEmpty() && !QDir().mkpath(pictures))
         return fail("--pictures " + pictures + ": the folder cannot be made");

@@ -2,32 +2,27 @@
 
 #include <QFileInfo>
 
-bool Recorder::start(const QString& name)
+QString Recorder::start(const QString& name)
 {
     stop();
-    reason.clear();
     file.setFileName(name);
     const QFileInfo existing(name);
-    if (existing.isFile()) {
-        reason = name + ": this file exists; name another one, or remove it first";
-        return false;
-    }
+    if (existing.isFile())
+        return name + ": this file exists; name another one, or remove it first";
     // Without a buffer: after a failed write nothing must be left that would be written when the file is closed.
     QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     if (!existing.exists())
         mode |= QIODevice::NewOnly;
-    if (!file.open(mode)) {
-        reason = name + ": " + file.errorString();
-        return false;
-    }
+    if (!file.open(mode))
+        return name + ": " + file.errorString();
     wholeSize = 0;
     time.start();
-    write(QByteArray(recordingHeader));
-    if (!connection.isEmpty())
-        write({connection, true, {}});
-    if (isRecording())
+    QString problem = write(recordingHeader);
+    if (problem.isEmpty() && !connection.isEmpty())
+        problem = write({connection, true, {}});
+    if (problem.isEmpty())
         emit started();
-    return isRecording();
+    return problem;
 }
 
 void Recorder::stop()
@@ -52,29 +47,33 @@ bool Recorder::execute(Operation operation, const QByteArray& command, QByteArra
     return isAnswered;
 }
 
-void Recorder::write(const RecordedLine& line)
+QString Recorder::write(const RecordedLine& line)
 {
-    write(line.toLine(time.isValid() ? time.elapsed() : 0));
+    return write(line.toLine(time.isValid() ? time.elapsed() : 0));
 }
 
-/** Writes a whole line. If it cannot, it ends the recording and cuts it back to its last whole line: it replays. */
-void Recorder::write(const QByteArray& line)
+/**
+ * Writes a whole line while there is a recording. If it cannot, it ends the recording and cuts it back to its last
+ * whole line, so that it replays, and returns why.
+ */
+QString Recorder::write(const QByteArray& line)
 {
     if (!isRecording())
-        return;
+        return {};
     qint64 written = file.write(line);
     if (written > 0 && written < line.size()) // the system says why it stopped when it is asked for the rest
         written += qMax(qint64(0), file.write(line.mid(static_cast<int>(written))));
     if (written == line.size()) {
         wholeSize += written;
-        return;
+        return {};
     }
-    reason = file.fileName() + ": " + file.errorString() + "; the recording ends here";
+    const QString problem = file.fileName() + ": " + file.errorString() + "; the recording ends here";
     const bool isFile = QFileInfo(file.fileName()).isFile(); // and no device
     if (isFile && wholeSize > 0)
         file.resize(wholeSize);
     file.close();
     if (isFile && wholeSize == 0)
         file.remove();
-    emit ended(reason);
+    emit ended(problem);
+    return problem;
 }

@@ -16,13 +16,12 @@ public:
 
     /**
      * Begins the recording \a name with the present connection, if there is one. Only a device may exist already.
-     * False when the file cannot be written; problem() says why.
+     * Returns why the file cannot be written, or an empty text.
      */
-    bool start(const QString& name);
+    QString start(const QString& name);
     void stop();
     bool isRecording() const { return file.isOpen(); }
     QString fileName() const { return file.fileName(); }
-    QString problem() const { return reason; }
 
     void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
@@ -33,13 +32,12 @@ signals:
     void ended(const QString& problem);
 
 private:
-    void write(const RecordedLine& line);
-    void write(const QByteArray& line);
+    QString write(const RecordedLine& line);
+    QString write(const QByteArray& line);
 
     ControllerLink* below;
     QFile file;
-    qint64 wholeSize = 0; // bytes in whole lines
-    QString reason;
+    qint64 wholeSize = 0;  // bytes in whole lines
     QByteArray connection; // the text of the present one
     QElapsedTimer time;
 };

@@ -98,13 +98,11 @@ bool readConnection(const QByteArray& text, ControllerIdentity* controller)
     return connectionText(*controller) == text.trimmed();
 }
 
-bool readRecording(const QString& file, QVector<RecordedLine>* lines, QString* error)
+QString readRecording(const QString& file, QVector<RecordedLine>* lines)
 {
     QFile input(file);
-    if (!input.open(QIODevice::ReadOnly)) {
-        *error = file + ": " + input.errorString();
-        return false;
-    }
+    if (!input.open(QIODevice::ReadOnly))
+        return file + ": " + input.errorString();
     const QByteArray bytes = input.readAll();
     // The size tells fromUtf8() not to stop at a NUL byte.
     QStringList texts = QString::fromUtf8(bytes.constData(), bytes.size()).replace("\r\n", "\n").split('\n');
@@ -128,7 +126,5 @@ bool readRecording(const QString& file, QVector<RecordedLine>* lines, QString* e
         reason = "it does not begin with a \"connect\"";
         number = lines->isEmpty() ? 2 : lines->first().number;
     }
-    if (!reason.isEmpty())
-        *error = QString("%1:%2: %3").arg(file).arg(number).arg(reason);
-    return reason.isEmpty();
+    return reason.isEmpty() ? QString() : QString("%1:%2: %3").arg(file).arg(number).arg(reason);
 }

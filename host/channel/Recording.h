@@ -26,6 +26,6 @@ bool readConnection(const QByteArray& text, ControllerIdentity* controller);
 
 /**
  * Reads the recording \a file into \a lines; the first one is a connection. Empty lines and lines starting with "#" are
- * ignored. False with "file:line: reason" in \a error when the file cannot be read or is damaged.
+ * ignored. Returns "file:line: reason" when the file cannot be read or is damaged, or an empty text.
  */
-bool readRecording(const QString& file, QVector<RecordedLine>* lines, QString* error);
+QString readRecording(const QString& file, QVector<RecordedLine>* lines);

@@ -17,13 +17,13 @@ class Replay : public QObject, public ControllerLink
 public:
     explicit Replay(const QString& file) : file(file) {}
 
-    /** Reads the recording. False when it is damaged; problem() names file, line and reason. */
-    bool open() { return readRecording(file, &lines, &firstProblem); }
+    /** Reads the recording. Returns file, line and reason when it is damaged, or an empty text. */
+    QString open() { return readRecording(file, &lines); }
 
     /** The controller of the first connection. Only after open(). */
     ControllerIdentity recordedController() const;
 
-    /** What is damaged, or the first command that differed, with its line, what was expected and what came. */
+    /** The first command that differed, with its line, what was expected and what came. */
     QString problem() const { return firstProblem; }
     QString fileName() const { return file; }
 

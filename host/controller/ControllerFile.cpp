@@ -21,32 +21,25 @@ QString syntaxError(const QByteArray& text, const QJsonParseError& parseError)
 
 } // namespace
 
-bool readControllerFile(const QString& file, ControllerState* state, QString* error)
+QString readControllerFile(const QString& file, ControllerState* state)
 {
     QFile input(file);
-    if (!input.open(QIODevice::ReadOnly)) {
-        *error = file + ": " + input.errorString();
-        return false;
-    }
+    if (!input.open(QIODevice::ReadOnly))
+        return file + ": " + input.errorString();
     const QByteArray text = input.readAll();
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
-    QString reason;
     if (parseError.error != QJsonParseError::NoError)
-        reason = syntaxError(text, parseError);
-    else
-        readState(document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array()), state, &reason);
-    if (!reason.isEmpty())
-        *error = file + ": " + reason;
-    return reason.isEmpty();
+        return file + ": " + syntaxError(text, parseError);
+    const QString reason =
+        readState(document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array()), state);
+    return reason.isEmpty() ? reason : file + ": " + reason;
 }
 
-bool saveControllerFile(const QString& file, const ControllerState& state, QString* error)
+QString saveControllerFile(const QString& file, const ControllerState& state)
 {
     QSaveFile output(file);
     const QByteArray text = QJsonDocument(toTree(state).toJson().toObject()).toJson();
-    if (output.open(QIODevice::WriteOnly) && output.write(text) == text.size() && output.commit())
-        return true;
-    *error = file + ": " + output.errorString();
-    return false;
+    const bool isSaved = output.open(QIODevice::WriteOnly) && output.write(text) == text.size() && output.commit();
+    return isSaved ? QString() : file + ": " + output.errorString();
 }

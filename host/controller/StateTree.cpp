@@ -124,7 +124,7 @@ private:
 
 /** Gives \a state the values of \a json and of the edit, unless one is refused, and makes the tree of what it is then.
  */
-bool exchange(const QJsonValue& json, const Edit& edit, ControllerState* state, StateNode* root, QString* error)
+QString exchange(const QJsonValue& json, const Edit& edit, ControllerState* state, StateNode* root)
 {
     ControllerState changed = *state;
     QString reason;
@@ -133,9 +133,7 @@ bool exchange(const QJsonValue& json, const Edit& edit, ControllerState* state, 
     visit.refuseRest();
     if (reason.isEmpty())
         *state = changed;
-    else
-        *error = reason.simplified();
-    return reason.isEmpty();
+    return reason.simplified();
 }
 
 } // namespace
@@ -166,19 +164,18 @@ QStringList StateNode::toLines() const
 StateNode toTree(ControllerState state)
 {
     StateNode root;
-    QString error;
-    exchange(QJsonValue::Undefined, {}, &state, &root, &error);
+    exchange(QJsonValue::Undefined, {}, &state, &root);
     return root;
 }
 
-bool readState(const QJsonValue& json, ControllerState* state, QString* error)
+QString readState(const QJsonValue& json, ControllerState* state)
 {
     StateNode root;
-    return exchange(json, {}, state, &root, error);
+    return exchange(json, {}, state, &root);
 }
 
-bool editField(const QString& place, const QString& entered, ControllerState* state, QString* error)
+QString editField(const QString& place, const QString& entered, ControllerState* state)
 {
     StateNode root;
-    return exchange(QJsonValue::Undefined, {place, entered}, state, &root, error);
+    return exchange(QJsonValue::Undefined, {place, entered}, state, &root);
 }

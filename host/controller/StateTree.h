@@ -24,10 +24,10 @@ StateNode toTree(ControllerState state);
 
 /**
  * Reads \a json into \a state. A field that it leaves out keeps its value; a list that it names is replaced as a whole.
- * False with "place: reason" in \a error when it names something unknown or contradicts itself; \a state is unchanged
- * then.
+ * When it names something unknown or contradicts itself, this returns "place: reason", and \a state is unchanged; else
+ * an empty text.
  */
-bool readState(const QJsonValue& json, ControllerState* state, QString* error);
+QString readState(const QJsonValue& json, ControllerState* state);
 
 /** Changes the field at \a place, which a tree names, to what somebody \a entered. Returns and refuses as above. */
-bool editField(const QString& place, const QString& entered, ControllerState* state, QString* error);
+QString editField(const QString& place, const QString& entered, ControllerState* state);

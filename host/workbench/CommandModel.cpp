@@ -3,6 +3,7 @@
 #include "CommandTraits.h"
 
 #include <QFont>
+#include <QTime>
 
 CommandModel::CommandModel()
 {
@@ -13,45 +14,40 @@ CommandModel::CommandModel()
 QVariant CommandModel::data(const QModelIndex& index, int role) const
 {
     const Row& row = rows.at(index.row());
-    const bool hasFailed = row.record.result != 0;
-    if (role == Qt::FontRole && hasFailed) {
+    if (role == Qt::FontRole && row.hasFailed) {
         QFont bold;
         bold.setBold(true);
         return bold;
     }
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (index.column()) {
-    case TimeColumn:
-        return row.time.toString("HH:mm:ss.zzz");
-    case OperationColumn:
-        return row.problem.isEmpty() ? QString::fromLatin1(textOf(row.record.operation)) : "replay";
-    case CommandColumn:
-        return row.problem.isEmpty() ? QString::fromLatin1(row.record.command) : row.problem;
-    case AnswerColumn:
-        return QString::fromLatin1(row.record.answer);
-    case ResultColumn:
-        return hasFailed ? tr("failed (%1)").arg(row.record.result) : tr("ok");
-    default:
-        return tr("%1 ms").arg(static_cast<double>(row.record.microseconds) / 1000.0, 0, 'f', 3);
-    }
+    if (role == KindRole)
+        return row.isPoll ? "poll" : "command";
+    return role == Qt::DisplayRole ? row.texts.at(index.column()) : QVariant();
 }
 
 QVariant CommandModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    const QStringList names = {tr("Time"), tr("Operation"), tr("Command"), tr("Answer"), tr("Result"), tr("Duration")};
-    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? names.value(section) : QVariant();
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? columns.value(section) : QVariant();
 }
 
 void CommandModel::append(const CommandRecord& record)
 {
-    pending.append({QTime::currentTime(), record, {}, traitsOf(record.text()).isPolled});
-    timer.start();
+    append(textOf(record.operation), QString::fromLatin1(record.command), record, traitsOf(record.text()).isPolled);
 }
 
 void CommandModel::appendProblem(const QString& problem)
 {
-    pending.append({QTime::currentTime(), {{}, {}, {}, -1}, problem, false});
+    append("replay", problem, {{}, {}, {}, -1}, false);
+}
+
+void CommandModel::append(const QString& operation, const QString& command, const CommandRecord& record, bool isPoll)
+{
+    const bool hasFailed = record.result != 0;
+    const double milliseconds = static_cast<double>(record.microseconds) / 1000.0;
+    pending.append(
+        {{QTime::currentTime().toString("HH:mm:ss.zzz"), operation, command, QString::fromLatin1(record.answer),
+          hasFailed ? tr("failed (%1)").arg(record.result) : tr("ok"), tr("%1 ms").arg(milliseconds, 0, 'f', 3)},
+         hasFailed,
+         isPoll});
     timer.start();
 }
 

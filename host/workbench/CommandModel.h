@@ -3,7 +3,6 @@
 #include "CommandRecord.h"
 
 #include <QAbstractTableModel>
-#include <QTime>
 #include <QTimer>
 #include <QVector>
 
@@ -16,14 +15,13 @@ class CommandModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { TimeColumn, OperationColumn, CommandColumn, AnswerColumn, ResultColumn, DurationColumn, ColumnCount };
+    /** Of any cell: "poll" in the row of a poll, else "command". */
+    enum Role { KindRole = Qt::UserRole };
 
     CommandModel();
 
-    bool isPoll(int row) const { return rows.at(row).isPoll; }
-
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows.size(); }
-    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : ColumnCount; }
+    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : columns.size(); }
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
@@ -38,12 +36,15 @@ public slots:
 private:
     struct Row
     {
-        QTime time;
-        CommandRecord record;
-        QString problem; // of a replay, in place of the command
+        QStringList texts;
+        bool hasFailed;
         bool isPoll;
     };
 
+    void append(const QString& operation, const QString& command, const CommandRecord& record, bool isPoll);
+
+    const QStringList columns = {tr("Time"),   tr("Operation"), tr("Command"),
+                                 tr("Answer"), tr("Result"),    tr("Duration")};
     QVector<Row> rows;
     QVector<Row> pending;
     QTimer timer;

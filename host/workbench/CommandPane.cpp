@@ -18,10 +18,8 @@
 static constexpr int columnPadding = 24;  // pixels
 static constexpr int shortestPause = 100; // milliseconds between two paintings, which may themselves take some
 
-CommandPane::CommandPane(DevelopmentHost* host) : shown(&commands), table(createTable(host))
+CommandPane::CommandPane(DevelopmentHost* host) : table(createTable(host))
 {
-    shown.setFilterKeyColumn(-1);
-    shown.setFilterCaseSensitivity(Qt::CaseInsensitive);
     sinceShown.start();
     auto* faults = new FaultPane(host);
     auto* layout = new QVBoxLayout(this);
@@ -44,16 +42,19 @@ CommandPane::CommandPane(DevelopmentHost* host) : shown(&commands), table(create
 
 LogTable* CommandPane::createTable(DevelopmentHost* host)
 {
+    unpolled.setSourceModel(&commands);
+    unpolled.setFilterRole(CommandModel::KindRole);
+    shown.setSourceModel(&unpolled);
+    shown.setFilterKeyColumn(-1);
+    shown.setFilterCaseSensitivity(Qt::CaseInsensitive);
     auto* log = new LogTable(host, "commands", tr("Commands"));
     log->setModel(&shown);
-    log->horizontalHeader()->setSectionResizeMode(CommandModel::CommandColumn, QHeaderView::Stretch);
-    const QMap<int, const char*> widest = {{CommandModel::TimeColumn, "00:00:00.000"},
-                                           {CommandModel::OperationColumn, "Operation"},
-                                           {CommandModel::AnswerColumn, "ttl - \"signal too slow\""},
-                                           {CommandModel::ResultColumn, "failed (-1)"},
-                                           {CommandModel::DurationColumn, "5000.000 ms"}};
-    for (auto sample = widest.begin(); sample != widest.end(); ++sample)
-        log->setColumnWidth(sample.key(), log->fontMetrics().boundingRect(sample.value()).width() + columnPadding);
+    // The widest text of each column but the one that takes the rest.
+    const QStringList widest = {"00:00:00.000", "Operation",  {}, "ttl - \"signal too slow\"",
+                                "failed (-1)",  "5000.000 ms"};
+    for (int column = 0; column < widest.size(); ++column)
+        log->setColumnWidth(column, log->fontMetrics().boundingRect(widest.at(column)).width() + columnPadding);
+    log->horizontalHeader()->setSectionResizeMode(widest.indexOf(QString()), QHeaderView::Stretch);
     // The table follows the newest row while the user has it scrolled to the end.
     connect(&shown, &QAbstractItemModel::rowsAboutToBeInserted, log, [this] {
         const QScrollBar* bar = table->verticalScrollBar();
@@ -73,8 +74,9 @@ QBoxLayout* CommandPane::createButtons()
     buttons->addWidget(filterLabel);
     buttons->addWidget(filter);
     auto* hidePolls = new QCheckBox(tr("&Hide polls"));
+    connect(hidePolls, &QCheckBox::toggled, &unpolled,
+            [this](bool isOn) { unpolled.setFilterFixedString(isOn ? "command" : ""); });
     hidePolls->setChecked(true);
-    connect(hidePolls, &QCheckBox::toggled, &shown, &CommandFilter::hidePolls);
     buttons->addWidget(hidePolls);
     const auto addButton = [&](const QString& text, auto slot) {
         auto* button = new QPushButton(text);

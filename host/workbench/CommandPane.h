@@ -1,8 +1,9 @@
 #pragma once
 
-#include "CommandFilter.h"
+#include "CommandModel.h"
 
 #include <QElapsedTimer>
+#include <QSortFilterProxyModel>
 #include <QWidget>
 
 class DevelopmentHost;
@@ -29,7 +30,8 @@ private:
     QBoxLayout* createButtons();
 
     CommandModel commands;
-    CommandFilter shown;
+    QSortFilterProxyModel unpolled; // without the polls, if they are hidden
+    QSortFilterProxyModel shown;    // of these, the rows in which the filter's text is found
     LogTable* table;
     QElapsedTimer sinceShown;
 };

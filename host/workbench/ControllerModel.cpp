@@ -35,7 +35,6 @@ ControllerModel::ControllerModel(const SimulatedController* controller, Apply ap
     timer.setSingleShot(true);
     connect(controller, &SimulatedController::changed, &timer, QOverload<>::of(&QTimer::start));
     connect(&timer, &QTimer::timeout, this, &ControllerModel::refresh);
-    connect(this, &QStandardItemModel::itemChanged, this, &ControllerModel::take);
 }
 
 void ControllerModel::markFromNow()
@@ -46,9 +45,7 @@ void ControllerModel::markFromNow()
 
 void ControllerModel::refresh()
 {
-    isRefreshing = true;
     show(invisibleRootItem(), toTree(controller->state()), toTree(marked));
-    isRefreshing = false;
 }
 
 /** Shows the children of \a node below \a parent; \a before is the node as it was when marked. */
@@ -73,15 +70,13 @@ void ControllerModel::show(QStandardItem* parent, const StateNode& node, const S
     }
 }
 
-/** Puts an edited value in force, or the old one back. */
-void ControllerModel::take(const QStandardItem* item)
+bool ControllerModel::setData(const QModelIndex& index, const QVariant& value, int /*role*/)
 {
-    if (isRefreshing || item->column() != ValueColumn)
-        return;
     ControllerState state = controller->state();
-    QString reason;
-    if (editField(item->data(PlaceRole).toString(), item->text(), &state, &reason))
+    QString reason = editField(index.data(PlaceRole).toString(), value.toString(), &state);
+    if (reason.isEmpty())
         reason = apply(state);
     emit edited(reason);
     refresh();
+    return reason.isEmpty();
 }

@@ -28,6 +28,9 @@ public:
 
     ControllerModel(const SimulatedController* controller, Apply apply);
 
+    /** Puts the edited \a value of a field in force, unless it is refused. */
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+
 public slots:
     /** Marks only what changes from now on. */
     void markFromNow();
@@ -39,11 +42,9 @@ signals:
 private:
     void refresh();
     void show(QStandardItem* parent, const StateNode& node, const StateNode& before);
-    void take(const QStandardItem* item);
 
     const SimulatedController* controller;
     Apply apply;
     ControllerState marked;
     QTimer timer;
-    bool isRefreshing = false;
 };

@@ -1,10 +1,37 @@
 #include "ControllerPane.h"
 
-#include "ChoiceDelegate.h"
 #include "CommandTraits.h"
 #include "DevelopmentHost.h"
 
+#include <QComboBox>
+#include <QStyledItemDelegate>
+
 static constexpr int initialColumnWidth = 240; // pixels
+
+namespace {
+
+/** Edits the controller's values. It offers those that ControllerModel names, and takes others where the model does. */
+class ChoiceDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QStringList choices = index.data(ControllerModel::ChoicesRole).toStringList();
+        if (choices.isEmpty())
+            return QStyledItemDelegate::createEditor(parent, option, index);
+        auto* box = new QComboBox(parent);
+        box->addItems(choices);
+        if (!index.data(ControllerModel::IsChoiceRole).toBool()) {
+            box->setEditable(true);
+            box->setCompleter(nullptr); // it would complete a typed text to one of the choices
+        }
+        return box;
+    }
+};
+
+} // namespace
 
 ControllerPane::ControllerPane(DevelopmentHost* host)
     : model(&host->controller(), [host](const ControllerState& state) { return host->changeState(state); })

@@ -1,7 +1,6 @@
 #include "FaultPane.h"
 
 #include "DevelopmentHost.h"
-#include "WheelSafe.h"
 
 #include <QAction>
 #include <QApplication>
@@ -11,9 +10,35 @@
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStyle>
+#include <QWheelEvent>
 
 static constexpr int largestCount = 1000;
 static constexpr int latencyStep = 100; // milliseconds
+
+namespace {
+
+/** A spin box that takes a typed number when it is whole, and that the wheel changes only while it has the focus. */
+class NumberBox : public QSpinBox
+{
+public:
+    explicit NumberBox(int maximum)
+    {
+        setMaximum(maximum);
+        setKeyboardTracking(false);
+        setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus
+    }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override
+    {
+        if (hasFocus())
+            QSpinBox::wheelEvent(event);
+        else
+            event->ignore(); // What lies below may scroll.
+    }
+};
+
+} // namespace
 
 FaultPane::FaultPane(DevelopmentHost* host) : faults(host->faults())
 {
@@ -37,10 +62,8 @@ FaultPane::FaultPane(DevelopmentHost* host) : faults(host->faults())
 
 QWidget* FaultPane::createCount(DevelopmentHost* host)
 {
-    auto* count = new WheelSafe<QSpinBox>;
-    count->setRange(0, largestCount);
+    auto* count = new NumberBox(largestCount);
     count->setSpecialValueText(tr("none"));
-    count->setKeyboardTracking(false);
     count->setEnabled(!host->isReplaying());
     connect(count, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int n) { faults.failNth(n); });
     connect(&host->channel(), &ControllerChannel::executed, count, [this, count] {
@@ -84,10 +107,8 @@ QWidget* FaultPane::createPattern(DevelopmentHost* host)
 
 QWidget* FaultPane::createLatency()
 {
-    auto* latency = new WheelSafe<QSpinBox>;
-    latency->setRange(0, Faults::maximumLatency);
+    auto* latency = new NumberBox(Faults::maximumLatency);
     latency->setSingleStep(latencyStep);
-    latency->setKeyboardTracking(false);
     latency->setSuffix(tr(" ms"));
     latency->setValue(faults.latency());
     connect(latency, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int ms) { faults.setLatency(ms); });

@@ -59,10 +59,10 @@ Workbench::Workbench(DevelopmentHost* host)
     layout->addWidget(message);
     if (host->isReplaying())
         layout->addWidget(createProgress(host, message));
-    auto* counter = new StepCounter(host, this);
-    connect(counter, &StepCounter::counted, this, &Workbench::stepCounted);
     auto* step = new QLabel;
-    connect(this, &Workbench::stepCounted, step, &QLabel::setText);
+    auto* counter = new StepCounter(host, this);
+    connect(counter, &StepCounter::counted, step, &QLabel::setText);
+    connect(counter, &StepCounter::counted, &host->window(), &MainWindow::showStep);
     layout->addWidget(step);
     connect(&host->window(), &MainWindow::workbenchWanted, this, [this] {
         show();

@@ -14,8 +14,4 @@ class Workbench : public QWidget
 
 public:
     explicit Workbench(DevelopmentHost* host);
-
-signals:
-    /** An opening or an exit of the dialog has ended; \a text says what it took, for a status bar. */
-    void stepCounted(const QString& text);
 };

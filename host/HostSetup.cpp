@@ -1,11 +1,12 @@
-#include "NamedControllers.h"
+#include "HostSetup.h"
 
 #include "ControllerFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
 
-QString controllerFolder()
+/** The folder of the named controllers. */
+static QString controllerFolder()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../" CONTROLLER_DIR);
 }
@@ -18,9 +19,9 @@ QString readController(const QString& wanted, HostSetup* setup)
         return "--controller " + wanted + ": no such controller, see --list";
     ControllerState state = ControllerState::builtIn();
     state.description.clear(); // it would not be true of what the file changes
-    QString error;
-    if (!readControllerFile(file, &state, &error))
-        return error;
+    const QString problem = readControllerFile(file, &state);
+    if (!problem.isEmpty())
+        return problem;
     setup->controllerName = isName ? wanted : QFileInfo(file).fileName();
     setup->state = state;
     return {};
