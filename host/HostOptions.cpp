@@ -45,7 +45,7 @@ bool HostOptions::parse(int argc, char* argv[])
     host.pluginFile = parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
     host.record = parser.value("record");
     host.replay = parser.value("replay");
-    return readController() && readProtocol() && readFaults() && checkFiles() && checkReplay() && readLanguage();
+    return checkTexts() && readController() && readProtocol() && readFaults() && checkReplay() && readLanguage();
 }
 
 /** Lists name and description of each named controller, unless one of their files is broken. */
@@ -100,11 +100,18 @@ bool HostOptions::readFaults()
     return isTaken || refuse("--latency " + parser.value("latency") + ": milliseconds from 0 to 5000 are expected");
 }
 
-bool HostOptions::checkFiles()
+bool HostOptions::checkTexts()
 {
-    for (const char* option : {"record", "replay", "plugin"}) {
-        if (parser.isSet(option) && parser.value(option).isEmpty())
-            return refuse(QString("--%1: a file is expected").arg(QLatin1String(option)));
+    const QMap<QString, QString> expected = {
+        {"controller", "a name of --list, or a file"},
+        {"language", "a language such as de"},
+        {"plugin", "a file"},
+        {"record", "a file"},
+        {"replay", "a file"},
+    };
+    for (auto option = expected.begin(); option != expected.end(); ++option) {
+        if (parser.isSet(option.key()) && parser.value(option.key()).isEmpty())
+            return refuse("--" + option.key() + ": " + option.value() + " is expected");
     }
     return true;
 }

@@ -36,7 +36,7 @@ private:
     bool readController();
     bool readProtocol();
     bool readFaults();
-    bool checkFiles();
+    bool checkTexts();
     bool checkReplay();
 
     QCommandLineParser parser;

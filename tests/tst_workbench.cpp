@@ -255,7 +255,7 @@ void TestWorkbench::logsOpeningAndExit()
         const QString path = folder.filePath(file);
         workbench.findChild<CommandPane*>()->save(path);
         QCOMPARE(workbench.findChild<QLabel*>("message")->text(),
-                 *file == 'a' ? "Saved in " + path : path + ": No such file or directory");
+                 *file == 'a' ? "Saved to " + path : path + ": No such file or directory");
     }
     auto* latency = workbench.findChildren<QSpinBox*>().constLast();
     for (const int expected : {0, 100}) {

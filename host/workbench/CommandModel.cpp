@@ -21,7 +21,7 @@ QVariant CommandModel::data(const QModelIndex& index, int role) const
     }
     if (role == KindRole)
         return row.isPoll ? "poll" : "command";
-    return role == Qt::DisplayRole ? row.texts.at(index.column()) : QVariant();
+    return role == Qt::DisplayRole || role == Qt::ToolTipRole ? row.texts.at(index.column()) : QVariant();
 }
 
 QVariant CommandModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -23,8 +23,9 @@ CommandPane::CommandPane(DevelopmentHost* host) : table(createTable(host))
     sinceShown.start();
     auto* faults = new FaultPane(host);
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(createButtons());
+    layout->addLayout(createFilter());
     layout->addWidget(table);
+    layout->addLayout(createButtons());
     layout->addWidget(faults);
     connect(faults, &FaultPane::said, this, &CommandPane::said);
     connect(&host->channel(), &ControllerChannel::executed, this, [this, host](const CommandRecord& record) {
@@ -49,12 +50,15 @@ LogTable* CommandPane::createTable(DevelopmentHost* host)
     shown.setFilterCaseSensitivity(Qt::CaseInsensitive);
     auto* log = new LogTable(host, "commands", tr("Commands"));
     log->setModel(&shown);
-    // The widest text of each column but the one that takes the rest.
-    const QStringList widest = {"00:00:00.000", "Operation",  {}, "ttl - \"signal too slow\"",
-                                "failed (-1)",  "5000.000 ms"};
+    const QStringList widest = {"00:00:00.000", "Operation",   "synccard max_external_divisor d01 video",
+                                "Answer",       "failed (-1)", "5000.000 ms"};
+    const auto widthOf = [log](const QString& text) {
+        return log->fontMetrics().boundingRect(text).width() + columnPadding;
+    };
     for (int column = 0; column < widest.size(); ++column)
-        log->setColumnWidth(column, log->fontMetrics().boundingRect(widest.at(column)).width() + columnPadding);
-    log->horizontalHeader()->setSectionResizeMode(widest.indexOf(QString()), QHeaderView::Stretch);
+        log->setColumnWidth(column, widthOf(widest.at(column)));
+    log->horizontalHeader()->setMinimumSectionSize(widthOf("Answer"));
+    log->horizontalHeader()->setSectionResizeMode(widest.indexOf("Answer"), QHeaderView::Stretch);
     // The table follows the newest row while the user has it scrolled to the end.
     connect(&shown, &QAbstractItemModel::rowsAboutToBeInserted, log, [this] {
         const QScrollBar* bar = table->verticalScrollBar();
@@ -64,24 +68,31 @@ LogTable* CommandPane::createTable(DevelopmentHost* host)
     return log;
 }
 
-QBoxLayout* CommandPane::createButtons()
+QBoxLayout* CommandPane::createFilter()
 {
     auto* filter = new QLineEdit;
     connect(filter, &QLineEdit::textChanged, &shown, &QSortFilterProxyModel::setFilterFixedString);
     auto* filterLabel = new QLabel(tr("Fi&lter"));
     filterLabel->setBuddy(filter);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(filterLabel);
-    buttons->addWidget(filter);
     auto* hidePolls = new QCheckBox(tr("&Hide polls"));
     connect(hidePolls, &QCheckBox::toggled, &unpolled,
             [this](bool isOn) { unpolled.setFilterFixedString(isOn ? "command" : ""); });
     hidePolls->setChecked(true);
-    buttons->addWidget(hidePolls);
+    auto* row = new QHBoxLayout;
+    row->addWidget(filterLabel);
+    row->addWidget(filter);
+    row->addWidget(hidePolls);
+    return row;
+}
+
+QBoxLayout* CommandPane::createButtons()
+{
+    auto* row = new QHBoxLayout;
+    row->addStretch();
     const auto addButton = [&](const QString& text, auto slot) {
         auto* button = new QPushButton(text);
         connect(button, &QPushButton::clicked, this, slot);
-        buttons->addWidget(button);
+        row->addWidget(button);
     };
     addButton(tr("Co&py"), [this] { table->copy(); });
     addButton(tr("&Save..."), [this] {
@@ -90,7 +101,7 @@ QBoxLayout* CommandPane::createButtons()
             save(file);
     });
     addButton(tr("Cl&ear"), [this] { commands.clear(); });
-    return buttons;
+    return row;
 }
 
 void CommandPane::save(const QString& file)
@@ -98,5 +109,5 @@ void CommandPane::save(const QString& file)
     QSaveFile output(file);
     const bool isSaved =
         output.open(QIODevice::WriteOnly) && output.write(table->text(false).toUtf8()) >= 0 && output.commit();
-    emit said(isSaved ? tr("Saved in %1").arg(file) : file + ": " + output.errorString());
+    emit said(isSaved ? tr("Saved to %1").arg(file) : file + ": " + output.errorString());
 }

@@ -27,6 +27,7 @@ signals:
 
 private:
     LogTable* createTable(DevelopmentHost* host);
+    QBoxLayout* createFilter();
     QBoxLayout* createButtons();
 
     CommandModel commands;

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStyle>
@@ -46,15 +45,10 @@ FaultPane::FaultPane(DevelopmentHost* host) : faults(host->faults())
     layout->setContentsMargins({});
     layout->addRow(tr("Fail the &n-th command from now"), createCount(host));
     layout->addRow(tr("Fail commands that &match"), createPattern(host));
-    auto* latency = createLatency();
-    auto* latencyRow = new QHBoxLayout;
-    latencyRow->addWidget(latency);
+    layout->addRow(tr("Each command &takes longer by"), createLatency());
     auto* eventLoop = new QCheckBox(tr("&wait in an event loop"));
     connect(eventLoop, &QCheckBox::toggled, this, [this](bool isOn) { faults.waitInEventLoop(isOn); });
-    latencyRow->addWidget(eventLoop, 1);
-    auto* latencyLabel = new QLabel(tr("Each command &takes longer by"));
-    latencyLabel->setBuddy(latency);
-    layout->addRow(latencyLabel, latencyRow);
+    layout->addRow(QString(), eventLoop);
     connect(&faults, &Faults::waiting, this, [](bool isBegin) {
         isBegin ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
     });
