@@ -1,8 +1,8 @@
 #include "DialogText.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QDialog>
-#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTableWidget>
@@ -40,20 +40,14 @@ QString itemsText(const QComboBox* box)
     return items.join('|');
 }
 
-template <typename SpinBox>
-QString rangeText(const SpinBox* box)
-{
-    return QString("%1..%2:%3").arg(box->minimum()).arg(box->maximum()).arg(box->value());
-}
-
 QString contentText(const QWidget* widget)
 {
     if (const auto* box = qobject_cast<const QComboBox*>(widget))
         return itemsText(box);
-    if (const auto* frequency = qobject_cast<const QDoubleSpinBox*>(widget))
-        return rangeText(frequency);
-    if (const auto* divisor = qobject_cast<const QSpinBox*>(widget))
-        return rangeText(divisor);
+    if (qobject_cast<const QAbstractSpinBox*>(widget)) {
+        const auto text = [widget](const char* property) { return widget->property(property).toString(); };
+        return text("minimum") + ".." + text("maximum") + ':' + text("value");
+    }
     if (const auto* table = qobject_cast<const QTableWidget*>(widget))
         return rowsText(table);
     const auto* label = qobject_cast<const QLabel*>(widget);

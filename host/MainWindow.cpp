@@ -1,6 +1,5 @@
 #include "MainWindow.h"
 
-#include "CommandTraits.h"
 #include "DevelopmentHost.h"
 
 #include <QApplication>

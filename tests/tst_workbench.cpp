@@ -136,7 +136,7 @@ void TestWorkbench::editsTheController()
 {
     DevelopmentHost host{HostSetup()};
     QVERIFY(host.start());
-    ControllerModel model(&host.controller(), [&](const ControllerState& state) { return host.changeState(state); });
+    ControllerModel model(&host);
     const QAbstractItemModelTester tester(&model);
     QString problem;
     connect(&model, &ControllerModel::edited, this, [&](const QString& said) { problem = said; });

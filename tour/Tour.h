@@ -41,6 +41,7 @@ private:
     // The steps that visits share: Tour.cpp
     void restart(const ControllerState& state);
     void visit(const QString& title, const QString& obstacle, const DialogUser::Steps& steps);
+    void chooseMode();
     void compareState(const QString& title);
     void waitForPoll();
     void closeBox();

@@ -152,14 +152,18 @@ void Tour::editChannels()
     });
 }
 
+void Tour::chooseMode()
+{
+    expected.activeMode = modeToChoose(expected);
+    demand(user->choose("comboBox_modes", expected.activeMode), "the mode cannot be chosen");
+}
+
 void Tour::choosePredefinedMode()
 {
     visit("Choose a predefined mode", obstacle(expected, Mode), [this] {
-        const QString mode = modeToChoose(expected);
         user->focusBy("label_supportedSynccardModes");
-        demand(user->choose("comboBox_modes", mode), "the mode cannot be chosen");
+        chooseMode();
         look("predefined-mode");
-        expected.activeMode = mode;
         writeOutput(&expected);
         user->leave("OK");
     });
@@ -174,9 +178,7 @@ void Tour::meetLegacyController()
     restart(legacy);
     visit("Choose a mode on a legacy controller", obstacle(legacy, Mode), [this] {
         look("legacy");
-        const QString mode = modeToChoose(expected);
-        demand(user->choose("comboBox_modes", mode), "the mode cannot be chosen");
-        expected.activeMode = mode;
+        chooseMode();
         user->leave("OK");
     });
 }

@@ -17,3 +17,20 @@ bool isOperation(const QByteArray& text)
 {
     return texts().contains(text);
 }
+
+/** The commands that are not like all others, and at the end all others. */
+static constexpr CommandTraits table[] = {
+    {"get synccard available", 200, false, true},
+    {"get synccard has_input_frequency", 16, true, false},
+    {"get synccard input_frequency", 200, true, false},
+    {"get synccard output d01", 100, false, false},
+    {"", 200, false, false},
+};
+
+const CommandTraits& traitsOf(const QByteArray& command)
+{
+    const CommandTraits* traits = table;
+    while (*traits->command && command != traits->command)
+        ++traits;
+    return *traits;
+}

@@ -18,11 +18,16 @@ QByteArray textOf(Operation operation);
 /** Whether \a text is such a text. */
 bool isOperation(const QByteArray& text);
 
+/** A command behind its operation, as recordings and tests write it: "get synccard source d01". */
+inline QByteArray textOf(Operation operation, const QByteArray& command)
+{
+    return textOf(operation) + ' ' + command;
+}
+
 /** One command as it went over a channel. */
 struct CommandRecord
 {
-    /** The command behind its operation, as recordings and tests write it: "get synccard source d01". */
-    QByteArray text() const { return textOf(operation) + ' ' + command; }
+    QByteArray text() const { return textOf(operation, command); }
 
     Operation operation;
     QByteArray command; // as the module formatted it
@@ -30,3 +35,15 @@ struct CommandRecord
     int result;         // 0 on success
     qint64 microseconds = 0;
 };
+
+/** How modules use a command. */
+struct CommandTraits
+{
+    const char* command;
+    int bufferSize;     // of the buffer for a text answer, its terminator included
+    bool isPolled;      // asked each second while the dialog is open
+    bool beginsOpening; // asked once near the start of each opening
+};
+
+/** The traits of a command behind its operation, such as "get synccard available". */
+const CommandTraits& traitsOf(const QByteArray& command);

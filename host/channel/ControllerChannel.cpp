@@ -1,6 +1,5 @@
 #include "ControllerChannel.h"
 
-#include "CommandTraits.h"
 #include "ControllerLink.h"
 
 #include <QElapsedTimer>
@@ -98,7 +97,7 @@ int ControllerChannel::setParameter(const char* format, ...)
 int ControllerChannel::answerText(Operation operation, const QByteArray& command, char* answer)
 {
     return carryOut(operation, command, [&](const QByteArray* value) {
-        const bool fits = value && value->size() < traitsOf(textOf(operation) + ' ' + command).bufferSize;
+        const bool fits = value && value->size() < traitsOf(textOf(operation, command)).bufferSize;
         qstrcpy(answer, fits ? value->constData() : "yes");
         return fits;
     });

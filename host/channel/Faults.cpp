@@ -1,7 +1,5 @@
 #include "Faults.h"
 
-#include "CommandTraits.h"
-
 #include <QEventLoop>
 #include <QThread>
 #include <QTimer>
@@ -9,7 +7,7 @@
 bool Faults::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
     if (delay > 0)
-        wait(traitsOf(textOf(operation) + ' ' + command).isPolled);
+        wait(traitsOf(textOf(operation, command)).isPolled);
     const bool isNth = untilFailure > 0 && --untilFailure == 0;
     const bool isMatching = !pattern.pattern().isEmpty() && pattern.match(QString::fromLatin1(command)).hasMatch();
     return !isNth && !isMatching && below->execute(operation, command, answer);

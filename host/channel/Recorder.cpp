@@ -43,7 +43,7 @@ void Recorder::connected(const ControllerIdentity& controller)
 bool Recorder::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
     const bool isAnswered = below->execute(operation, command, answer);
-    write({textOf(operation) + ' ' + command, isAnswered, isAnswered ? *answer : QByteArray()});
+    write({textOf(operation, command), isAnswered, isAnswered ? *answer : QByteArray()});
     return isAnswered;
 }
 

@@ -1,7 +1,5 @@
 #include "Replay.h"
 
-#include "CommandTraits.h"
-
 #include <algorithm>
 
 static bool isPoll(const RecordedLine& line)
@@ -52,7 +50,7 @@ void Replay::connected(const ControllerIdentity& controller)
 
 bool Replay::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
-    const RecordedLine line = take({textOf(operation) + ' ' + command, true, "no"});
+    const RecordedLine line = take({textOf(operation, command), true, "no"});
     *answer = line.answer;
     emit moved();
     return line.isAnswered;

@@ -34,8 +34,6 @@ struct CardState
     double maxDelay = 300.0; // milliseconds
     QVector<ChannelState> channels;
 
-    static constexpr double minimumFrequency = 10.0; // Hz, of every card's internal source
-
     static QVector<SourceState> builtInSources();
 
     /** The source with the keyword \a keyword; null when the card does not offer it. */

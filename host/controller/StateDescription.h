@@ -62,7 +62,7 @@ void describe(Visitor& visit, ChannelState& channel, const CardState& card)
 template <typename Visitor>
 void describe(Visitor& visit, CardState& card, const ControllerState& /*state*/)
 {
-    constexpr double minimum = CardState::minimumFrequency;
+    constexpr double minimum = 10.0; // Hz, of every card's internal source
     visit.field({"model", FieldRule::Word}, card.model);
     visit.field({"serial"}, card.serial);
     visit.field({"description"}, card.description);

@@ -1,7 +1,5 @@
 #include "CommandModel.h"
 
-#include "CommandTraits.h"
-
 #include <QFont>
 #include <QTime>
 

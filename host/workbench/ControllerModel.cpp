@@ -1,6 +1,6 @@
 #include "ControllerModel.h"
 
-#include "SimulatedController.h"
+#include "DevelopmentHost.h"
 
 #include <QFont>
 
@@ -25,27 +25,26 @@ void showValue(QStandardItem* item, const StateNode& field)
 
 } // namespace
 
-ControllerModel::ControllerModel(const SimulatedController* controller, Apply apply)
-    : controller(controller), apply(std::move(apply)), marked(controller->state())
+ControllerModel::ControllerModel(DevelopmentHost* host) : host(host), marked(host->controller().state())
 {
     setHorizontalHeaderLabels({tr("Name"), tr("Value"), tr("Unit")});
     refresh();
     // Refreshed from the event loop: a burst of commands is shown once, and no opening of the dialog waits for the
     // tree.
     timer.setSingleShot(true);
-    connect(controller, &SimulatedController::changed, &timer, QOverload<>::of(&QTimer::start));
+    connect(&host->controller(), &SimulatedController::changed, &timer, QOverload<>::of(&QTimer::start));
     connect(&timer, &QTimer::timeout, this, &ControllerModel::refresh);
 }
 
 void ControllerModel::markFromNow()
 {
-    marked = controller->state();
+    marked = host->controller().state();
     timer.start();
 }
 
 void ControllerModel::refresh()
 {
-    show(invisibleRootItem(), toTree(controller->state()), toTree(marked));
+    show(invisibleRootItem(), toTree(host->controller().state()), toTree(marked));
 }
 
 /** Shows the children of \a node below \a parent; \a before is the node as it was when marked. */
@@ -72,10 +71,10 @@ void ControllerModel::show(QStandardItem* parent, const StateNode& node, const S
 
 bool ControllerModel::setData(const QModelIndex& index, const QVariant& value, int /*role*/)
 {
-    ControllerState state = controller->state();
+    ControllerState state = host->controller().state();
     QString reason = editField(index.data(PlaceRole).toString(), value.toString(), &state);
     if (reason.isEmpty())
-        reason = apply(state);
+        reason = host->changeState(state);
     emit edited(reason);
     refresh();
     return reason.isEmpty();

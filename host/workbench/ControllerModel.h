@@ -5,14 +5,12 @@
 #include <QStandardItemModel>
 #include <QTimer>
 
-#include <functional>
-
-class SimulatedController;
+class DevelopmentHost;
 
 /**
- * The simulated controller's state as an editable tree: name, value and unit of each field, in the description's order.
- * It follows the controller; values that differ from those at the last markFromNow() are bold and have a star. GUI
- * thread only; does not own the controller.
+ * The state of the host's simulated controller as an editable tree: name, value and unit of each field, in the
+ * description's order. It follows the controller; values that differ from those at the last markFromNow() are bold and
+ * have a star. GUI thread only; does not own the host.
  */
 class ControllerModel : public QStandardItemModel
 {
@@ -23,10 +21,7 @@ public:
     /** Of a value: its place in the state, the texts to choose from, and whether it takes no others. */
     enum Role { PlaceRole = Qt::UserRole, ChoicesRole, IsChoiceRole };
 
-    /** Puts an edited state in force; returns why not, or an empty text. */
-    using Apply = std::function<QString(const ControllerState&)>;
-
-    ControllerModel(const SimulatedController* controller, Apply apply);
+    explicit ControllerModel(DevelopmentHost* host);
 
     /** Puts the edited \a value of a field in force, unless it is refused. */
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
@@ -43,8 +38,7 @@ private:
     void refresh();
     void show(QStandardItem* parent, const StateNode& node, const StateNode& before);
 
-    const SimulatedController* controller;
-    Apply apply;
+    DevelopmentHost* host;
     ControllerState marked;
     QTimer timer;
 };

@@ -1,6 +1,5 @@
 #include "ControllerPane.h"
 
-#include "CommandTraits.h"
 #include "DevelopmentHost.h"
 
 #include <QComboBox>
@@ -33,8 +32,7 @@ public:
 
 } // namespace
 
-ControllerPane::ControllerPane(DevelopmentHost* host)
-    : model(&host->controller(), [host](const ControllerState& state) { return host->changeState(state); })
+ControllerPane::ControllerPane(DevelopmentHost* host) : model(host)
 {
     setModel(&model);
     setAccessibleName(tr("Simulated controller"));

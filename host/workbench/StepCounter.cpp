@@ -1,6 +1,5 @@
 #include "StepCounter.h"
 
-#include "CommandTraits.h"
 #include "DevelopmentHost.h"
 
 #include <QApplication>

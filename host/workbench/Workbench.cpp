@@ -1,7 +1,6 @@
 #include "Workbench.h"
 
 #include "CommandPane.h"
-#include "CommandTraits.h"
 #include "ControllerPane.h"
 #include "DevelopmentHost.h"
 #include "ReportPane.h"
