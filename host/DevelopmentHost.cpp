@@ -34,7 +34,7 @@ bool DevelopmentHost::start()
 QString DevelopmentHost::openRecordings()
 {
     if (isReplaying()) {
-        const QString problem = recorded.open();
+        QString problem = recorded.open();
         if (!problem.isEmpty())
             return problem;
         setup.controllerName = tr("as recorded");
@@ -42,7 +42,7 @@ QString DevelopmentHost::openRecordings()
         setup.state.protocol = recorded.recordedController().protocol;
         setup.state.model = recorded.recordedController().model;
     }
-    const QString problem = setup.record.isEmpty() ? QString() : commandRecorder.start(setup.record);
+    QString problem = setup.record.isEmpty() ? QString() : commandRecorder.start(setup.record);
     if (problem.isEmpty())
         connectTo(setup.state);
     return problem;

@@ -19,7 +19,7 @@ QString readController(const QString& wanted, HostSetup* setup)
         return "--controller " + wanted + ": no such controller, see --list";
     ControllerState state = ControllerState::builtIn();
     state.description.clear(); // it would not be true of what the file changes
-    const QString problem = readControllerFile(file, &state);
+    QString problem = readControllerFile(file, &state);
     if (!problem.isEmpty())
         return problem;
     setup->controllerName = isName ? wanted : QFileInfo(file).fileName();
@@ -32,7 +32,7 @@ QString readNamedControllers(QVector<HostSetup>* controllers)
     const QStringList files = QDir(controllerFolder()).entryList({"*.json"}, QDir::Files, QDir::Name);
     for (const QString& file : files) {
         HostSetup named;
-        const QString problem = readController(file.chopped(5), &named);
+        QString problem = readController(file.chopped(5), &named);
         if (!problem.isEmpty())
             return problem;
         controllers->append(named);

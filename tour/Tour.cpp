@@ -68,13 +68,13 @@ int Tour::run()
     expected = initial = host.controller().state(); // with the protocol of a recording
     host.window().show();
     user = std::make_unique<DialogUser>(host.dialog());
-    using Visit = void (Tour::*)();
-    for (const Visit next :
-         {&Tour::raiseFrequency, &Tour::takeSourceBack, &Tour::editChannels, &Tour::choosePredefinedMode,
-          &Tour::meetLegacyController, &Tour::meetLockedController, &Tour::meetControllerWithoutSynccard}) {
-        if (!hasFailed())
-            (this->*next)();
-    }
+    raiseFrequency();
+    takeSourceBack();
+    editChannels();
+    choosePredefinedMode();
+    meetLegacyController();
+    meetLockedController();
+    meetControllerWithoutSynccard();
     if (host.isReplaying())
         demand(host.replay().isAtEnd(), "the recording goes on after the tour's end");
     if (hasFailed())

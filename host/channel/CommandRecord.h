@@ -27,6 +27,7 @@ inline QByteArray textOf(Operation operation, const QByteArray& command)
 /** One command as it went over a channel. */
 struct CommandRecord
 {
+    /** The command behind its operation. */
     QByteArray text() const { return textOf(operation, command); }
 
     Operation operation;

@@ -67,7 +67,7 @@ QString Recorder::write(const QByteArray& line)
         wholeSize += written;
         return {};
     }
-    const QString problem = file.fileName() + ": " + file.errorString() + "; the recording ends here";
+    QString problem = file.fileName() + ": " + file.errorString() + "; the recording ends here";
     const bool isFile = QFileInfo(file.fileName()).isFile(); // and no device
     if (isFile && wholeSize > 0)
         file.resize(wholeSize);

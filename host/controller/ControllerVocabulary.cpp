@@ -72,12 +72,11 @@ bool setSource(Access& a, const QString& value)
     return isTaken;
 }
 
-// Of any patch number.
-const VersionInfo modes(0, 8, -1);
-const VersionInfo cards(0, 13, -1);
-const VersionInfo frequencyLimit(1, 5, -1);
-const VersionInfo configLock(1, 9, -1);
-const VersionInfo outputs(1, 23, -1);
+constexpr ProtocolGate modes{0, 8};
+constexpr ProtocolGate cards{0, 13};
+constexpr ProtocolGate frequencyLimit{1, 5};
+constexpr ProtocolGate configLock{1, 9};
+constexpr ProtocolGate outputs{1, 23};
 
 // clang-format off
 const Parameter parameters[] = {
@@ -148,7 +147,8 @@ const Parameter* findParameter(const QStringList& words, ParameterAccess* access
         return name == parameter.name && words.size() - 2 == static_cast<int>(qstrlen(parameter.qualifiers));
     };
     const auto* found = std::find_if(std::begin(parameters), std::end(parameters), matches);
-    if (found == std::end(parameters) || access->state->protocol < found->since)
+    if (found == std::end(parameters)
+        || access->state->protocol < VersionInfo(found->since.major, found->since.minor, -1))
         return nullptr;
     for (int i = 2; i < words.size(); ++i) {
         if (!resolve(found->qualifiers[i - 2], words.at(i), access))

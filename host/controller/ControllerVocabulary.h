@@ -14,14 +14,20 @@ struct ParameterAccess
     QStringList words = {};
 };
 
+/** The first protocol version, of any patch number, that knows a parameter. */
+struct ProtocolGate
+{
+    int major;
+    int minor;
+};
+
 /** A parameter of the controller: its name and how it is read and, if it can be, written. */
 struct Parameter
 {
     const char* name;
     /** A letter a qualifier: d card, c channel of that card, t mode, w any word. */
     const char* qualifiers;
-    /** The first protocol that knows it. */
-    const VersionInfo& since;
+    ProtocolGate since;
     /** The value as text; a null text when there is none. */
     QString (*get)(const ParameterAccess&);
     /** False, and nothing changed, when the value lies outside the limits. Null for a parameter that is read only. */
