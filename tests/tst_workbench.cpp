@@ -13,7 +13,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QSpinBox>
@@ -36,13 +35,6 @@ private slots:
 
 namespace {
 
-HostSetup replaying(const QString& file)
-{
-    HostSetup result;
-    result.replay = file;
-    return result;
-}
-
 /** Opens the dialog by its menu entry. */
 void open(DevelopmentHost& host, const std::function<void(const DialogUser&)>& steps,
           DialogUser::Outcome expected = DialogUser::Closed)
@@ -56,12 +48,8 @@ void open(DevelopmentHost& host, const std::function<void(const DialogUser&)>& s
 
 QList<QSize> iconSizes(DevelopmentHost& host)
 {
-    QList<QSize> sizes;
-    open(host, [&](const DialogUser& user) {
-        sizes = user.dialog()->windowIcon().availableSizes();
-        user.leave("Escape");
-    });
-    return sizes;
+    open(host, [](const DialogUser& user) { user.leave("Escape"); });
+    return host.dialog()->windowIcon().availableSizes();
 }
 
 void raiseFrequency(const DialogUser& user)
@@ -71,42 +59,38 @@ void raiseFrequency(const DialogUser& user)
     user.leave("OK");
 }
 
-/** The text of the recording of one opening, during which it cannot be stopped. */
-QByteArray recorded(const QString& file)
+/** Records one opening, during which nothing can be changed. Returns what the host said. */
+QStringList record(const QString& file)
 {
     DevelopmentHost host{HostSetup()};
     host.start();
-    QString problem = host.startRecording(file);
+    QStringList said = {host.startRecording(file)};
     open(host, [&](const DialogUser& user) {
-        problem += host.stopRecording() + host.startRecording(file) + host.resetController();
+        said << host.stopRecording() << host.startRecording(file) << host.resetController();
         raiseFrequency(user);
     });
-    problem += host.window().windowTitle() + host.stopRecording() + host.startRecording(file);
-    const QString refused = "Close the dialog first.";
-    return problem
-                   == refused + refused + refused
-                          + QString("recording a, full, protocol 1.23.0, process %1 - Development Host")
-                                .arg(QCoreApplication::applicationPid())
-                          + file + ": this file exists; name another one, or remove it first"
-               ? readFile(file)
-               : problem.toUtf8();
+    return said << host.window().windowTitle() << host.stopRecording() << host.startRecording(file);
 }
 
 } // namespace
 
-/** A replay shows the recorded controller, whatever the setup says, and ignores the number of polls. The first
- * command that differs fails, and all that follow fail. */
+/** A replay shows the recorded controller and ignores the number of polls. From the first difference on all fails. */
 void TestWorkbench::replaysWhatItRecorded()
 {
     QTemporaryDir folder;
     const QString file = folder.filePath("a");
-    QByteArray text = recorded(file);
+    const QString refused = "Close the dialog first.";
+    const QString title("recording a, full, protocol 1.23.0, process %1 - Development Host");
+    QCOMPARE(record(file), QStringList({"", refused, refused, refused, title.arg(QCoreApplication::applicationPid()),
+                                        "", file + ": this file exists; name another one, or remove it first"}));
+    QByteArray text = readFile(file);
     text.replace("frequency d01 -> 60\n", "frequency d01 -> 77\n").replace("frequency d01 61", "frequency d01 78");
     writeFile(file, text);
-    HostSetup whole = replaying(file);
-    whole.state.protocol = VersionInfo(0, 9, 0);
+    HostSetup replaying;
+    replaying.replay = file;
+    replaying.state.protocol = VersionInfo(0, 9, 0);
     {
-        DevelopmentHost host(whole);
+        DevelopmentHost host(replaying);
         QVERIFY2(host.start(), qPrintable(host.errorString()));
         for (int round = 0; round < 2; ++round) {
             QCOMPARE(host.rewindReplay(), QString());
@@ -120,14 +104,13 @@ void TestWorkbench::replaysWhatItRecorded()
         QCOMPARE(host.replay().problem(), QString());
     }
     writeFile(file, QByteArray(text).replace("get synccard mode t02", "get synccard mode t03"));
-    DevelopmentHost differing(replaying(file));
+    DevelopmentHost differing(replaying);
     QVERIFY(differing.start());
     open(differing, raiseFrequency, DialogUser::NotShown);
     const int line = text.left(text.indexOf("mode t02")).count('\n') + 1;
     const QString expected = R"(%1:%2: expected "get synccard mode t03", found "get synccard mode t02")";
     QCOMPARE(differing.replay().problem(), expected.arg(file).arg(line));
     QCOMPARE(differing.rewindReplay(), QString());
-    QCOMPARE(differing.replay().problem(), QString());
     QVERIFY(differing.replay().progress().endsWith(", next: get config is_changeable"));
 }
 
@@ -149,7 +132,6 @@ void TestWorkbench::editsTheController()
     QCOMPARE(iconSizes(host), {QSize(48, 48)});
     QCOMPARE(edit("frequency", "75.5"), "frequency * 75.5 ");
     QCOMPARE(edit("divisor", "x"), "divisor 1 cards 1, divisor: a number from 1 to 100 is expected");
-    QCOMPARE(host.controller().state().cards.first().frequency, 75.5);
     const auto* delay = model.findItems("delay", Qt::MatchRecursive).constFirst();
     QCOMPARE(delay->index().siblingAtColumn(ControllerModel::UnitColumn).data().toString(), "ms");
     const auto* mode = model.findItems("activeMode", Qt::MatchRecursive).constFirst();
@@ -165,7 +147,6 @@ void TestWorkbench::editsTheController()
     QCOMPARE(edit("locked", false), "locked * false ");
     QCOMPARE(iconSizes(host), host.window().windowIcon().availableSizes());
     QCOMPARE(edit("protocol", "1.10"), "protocol * 1.10.0 ");
-    QCOMPARE(host.versions().protocol(), VersionInfo(1, 10, 0));
     open(host, [](const DialogUser& user) {
         user.choose("comboBox_source", "video");
         user.leave("OK");
@@ -179,14 +160,13 @@ void TestWorkbench::editsTheController()
     QVERIFY(entry);
     QCOMPARE(edit("protocol", "0.12.7"), "protocol * 0.12.7 ");
     QVERIFY(!entry);
-    QVERIFY(host.entry().menu_entry);
     open(host, [](const DialogUser& user) { user.leave("Escape"); });
 }
 
 /** Clicks reach the workbench while the dialog is open, and the main window does not close then. */
 void TestWorkbench::staysUsableBesideTheDialog()
 {
-    HostSetup failing = HostSetup();
+    HostSetup failing;
     failing.failing.setPattern("model_desc 0x0405|has_output");
     DevelopmentHost host(failing);
     Workbench workbench(&host);
