@@ -4,11 +4,11 @@
 
 QString Recorder::start(const QString& name)
 {
-    stop();
-    file.setFileName(name);
     const QFileInfo existing(name);
     if (existing.isFile())
         return name + ": this file exists; name another one, or remove it first";
+    stop();
+    file.setFileName(name);
     // Without a buffer: after a failed write nothing must be left that would be written when the file is closed.
     QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     if (!existing.exists())
