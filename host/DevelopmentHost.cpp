@@ -2,15 +2,15 @@
 
 #include <QApplication>
 
-static BackendVersions versionsOf(const ControllerState& controller)
+static BackendVersions versionsOf(const ControllerIdentity& controller)
 {
     return {{1, 0, 0}, controller.protocol, {1, 0, 0}, controller.model};
 }
 
 DevelopmentHost::DevelopmentHost(const HostSetup& setup)
-    : setup(setup), simulated(setup.state), recorded(setup.replay),
+    : setup(setup), simulated(setup.controller.table), recorded(setup.replay),
       faultLayer(isReplaying() ? static_cast<ControllerLink*>(&recorded) : &simulated), commandRecorder(&faultLayer),
-      commandChannel(&commandRecorder), backendVersions(versionsOf(setup.state)), mainWindow(this),
+      commandChannel(&commandRecorder), backendVersions(versionsOf(setup.controller.table.identity)), mainWindow(this),
       loader(setup.pluginFile.isEmpty() ? ModuleLoader::defaultFile() : setup.pluginFile)
 {
     faultLayer.failMatching(setup.failing);
@@ -37,39 +37,36 @@ QString DevelopmentHost::openRecordings()
         QString problem = recorded.open();
         if (!problem.isEmpty())
             return problem;
-        setup.controllerName = tr("as recorded");
-        setup.state.description.clear();
-        setup.state.protocol = recorded.recordedController().protocol;
-        setup.state.model = recorded.recordedController().model;
+        setup.controller = {tr("as recorded"), {}};
+        setup.controller.table.identity = recorded.recordedController();
     }
     QString problem = setup.record.isEmpty() ? QString() : commandRecorder.start(setup.record);
     if (problem.isEmpty())
-        connectTo(setup.state);
+        connectTo(setup.controller.table);
     return problem;
 }
 
-/** Connects to a controller of this \a state: sets the versions, and tells the links. */
-void DevelopmentHost::connectTo(const ControllerState& state)
+/** Connects to a controller that answers as \a table says: sets the versions, and informs the links. */
+void DevelopmentHost::connectTo(const ControllerTable& table)
 {
-    backendVersions = versionsOf(state);
-    simulated.setState(state);
-    commandRecorder.connected(state.identity());
+    backendVersions = versionsOf(table.identity);
+    simulated.setTable(table);
+    commandRecorder.connected(table.identity);
 }
 
-bool DevelopmentHost::restart(const ControllerState& state)
+bool DevelopmentHost::restart(const ControllerTable& table)
 {
     if (reloadModule())
-        connectTo(state);
+        connectTo(table);
     return placeModule();
 }
 
-QString DevelopmentHost::chooseController(const HostSetup& chosen)
+QString DevelopmentHost::chooseController(const NamedController& chosen)
 {
     if (!whyBusy().isEmpty())
         return whyBusy();
-    setup.controllerName = chosen.controllerName;
-    setup.state = chosen.state;
-    return restart(setup.state) ? QString() : error;
+    setup.controller = chosen;
+    return restart(chosen.table) ? QString() : error;
 }
 
 QString DevelopmentHost::startRecording(const QString& file)
@@ -90,23 +87,21 @@ QString DevelopmentHost::rewindReplay()
     if (!whyBusy().isEmpty())
         return whyBusy();
     recorded.rewind();
-    return restart(simulated.state()) ? QString() : error;
+    return restart(simulated.table()) ? QString() : error;
 }
 
-QString DevelopmentHost::changeState(const ControllerState& state)
+QString DevelopmentHost::changeController(const ControllerTable& table)
 {
-    if (commandChannel.isBusy())
-        return whyBusy();
+    if (table.identity == simulated.table().identity) {
+        simulated.setTable(table);
+        return {};
+    }
+    if (!whyBusy().isEmpty())
+        return tr("A new protocol or model is a new connection. ") + whyBusy();
     const VersionInfo direct(0, 13, -1);
-    const bool isOtherPath = (state.protocol < direct) != (backendVersions.protocol() < direct);
-    if (isOtherPath && !whyBusy().isEmpty())
-        return tr("protocol: close the dialog first; across 0.13 the module is loaded anew");
-    if (isOtherPath)
-        return restart(state) ? QString() : error;
-    if (backendVersions.protocol() == state.protocol && backendVersions.hubModel() == state.model)
-        simulated.setState(state);
-    else
-        connectTo(state);
+    if ((table.identity.protocol < direct) != (backendVersions.protocol() < direct))
+        return restart(table) ? QString() : error;
+    connectTo(table);
     return {};
 }
 
@@ -151,6 +146,6 @@ QString DevelopmentHost::moduleText() const
 
 QString DevelopmentHost::controllerText() const
 {
-    const QString description = simulated.state().description;
+    const QString description = simulated.table().description;
     return description.isEmpty() ? controllerName() : controllerName() + ": " + description;
 }

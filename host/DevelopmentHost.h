@@ -29,29 +29,30 @@ public:
     bool start();
     QString errorString() const { return error; }
 
-    /** Ends the module, connects to a controller of this \a state and starts the module again. False like start(). */
-    bool restart(const ControllerState& state);
+    /** Ends the module, connects to a controller that answers as \a table says and starts the module again. False like start(). */
+    bool restart(const ControllerTable& table);
 
     // What the menus do. Each returns why it cannot, or an empty text. While the dialog is open or opening, none can.
     /** Restarts with the controller \a chosen, to which resetController() goes back from then on. */
-    QString chooseController(const HostSetup& chosen);
-    QString resetController() { return chooseController(setup); }
+    QString chooseController(const NamedController& chosen);
+    QString resetController() { return chooseController(setup.controller); }
     QString startRecording(const QString& file);
     QString stopRecording();
     /** Answers from the beginning of the recording again, and restarts the module. Only while replaying. */
     QString rewindReplay();
 
     /**
-     * Puts \a state in force. The module stays loaded, but is loaded again if the protocol crosses 0.13, because a
-     * dialog that has met a legacy controller keeps labels hidden. Returns why it cannot, or an empty text.
+     * Lets the controller answer as \a table says from now on. Another protocol or model is a new connection, for which
+     * the dialog must be closed. If the protocol crosses 0.13, the module is loaded again, because a dialog that has met
+     * a legacy controller keeps labels hidden. Returns an error message, or an empty string on success.
      */
-    QString changeState(const ControllerState& state);
+    QString changeController(const ControllerTable& table);
 
     /** A dialog is open, or a command is under way: the module must neither end nor change hands. Else empty. */
     QString whyBusy() const;
 
     /** The name of the controller as it was chosen, or "as recorded". */
-    QString controllerName() const { return setup.controllerName; }
+    QString controllerName() const { return setup.controller.name; }
     /** The same with its description: "full: Protocol 1.23 with everything". */
     QString controllerText() const;
     /** Name and version of the module, or "no module". */
@@ -75,7 +76,7 @@ public:
 
 private:
     QString openRecordings();
-    void connectTo(const ControllerState& state);
+    void connectTo(const ControllerTable& table);
     bool reloadModule();
     bool placeModule();
 

@@ -1,6 +1,7 @@
 #include "HostOptions.h"
 
 #include "Console.h"
+#include "ControllerText.h"
 #include "Faults.h"
 #include "ModuleLoader.h"
 
@@ -19,7 +20,8 @@ HostOptions::HostOptions(const QString& description, ReplayedController replayed
     parser.addOption({{"h", "help"}, "Shows this help."});
     parser.addOption({{"v", "version"}, "Shows the version."});
     parser.addOption({"list", "Lists the named controllers."});
-    parser.addOption({"controller", "Simulates <controller>: a name of --list, or a file (JSON).", "controller"});
+    parser.addOption({"controller", "Simulates <controller>: a name of --list, a controller file or a recording.",
+                      "controller", "full"});
     parser.addOption({"protocol", "Sets the controller's protocol to <version>, such as 0.12.7 or 1.23.", "version"});
     parser.addOption({"plugin", "Loads the module from <file>.", "file"});
     parser.addOption({"language", "Shows the module in <language>, such as de, instead of the user's.", "language"});
@@ -45,20 +47,20 @@ bool HostOptions::parse(int argc, char* argv[])
     host.pluginFile = parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
     host.record = parser.value("record");
     host.replay = parser.value("replay");
-    return checkTexts() && readController() && readProtocol() && readFaults() && checkReplay() && readLanguage();
+    return checkTexts() && checkReplay() && readController() && readProtocol() && readFaults() && readLanguage();
 }
 
 /** Lists name and description of each named controller, unless one of their files is broken. */
 bool HostOptions::listControllers()
 {
-    QVector<HostSetup> controllers;
+    QVector<NamedController> controllers;
     const QString problem = readNamedControllers(&controllers);
     int width = 0;
-    for (const HostSetup& listed : qAsConst(controllers))
-        width = qMax(width, listed.controllerName.size());
+    for (const NamedController& listed : qAsConst(controllers))
+        width = qMax(width, listed.name.size());
     QStringList lines;
-    for (const HostSetup& listed : qAsConst(controllers))
-        lines.append(listed.controllerName.leftJustified(width) + "  " + listed.state.description);
+    for (const NamedController& listed : qAsConst(controllers))
+        lines.append(listed.name.leftJustified(width) + "  " + listed.table.description);
     return problem.isEmpty() ? printed(lines.join('\n')) : refuse(problem);
 }
 
@@ -75,18 +77,16 @@ bool HostOptions::readLanguage()
 
 bool HostOptions::readController()
 {
-    const QString problem =
-        parser.isSet("controller") ? ::readController(parser.value("controller"), &host) : QString();
-    return problem.isEmpty() || refuse(problem);
+    const QString problem = ::readController(parser.value("controller"), &host.controller);
+    return problem.isEmpty() || refuse("--controller " + problem);
 }
 
 bool HostOptions::readProtocol()
 {
-    const QString text = parser.value("protocol");
-    bool isVersion = !parser.isSet("protocol");
-    if (!isVersion)
-        host.state.protocol.fromString(text, &isVersion);
-    return isVersion || refuse("--protocol " + text + ": a version such as 1.23 or 1.23.0 is expected");
+    if (!parser.isSet("protocol"))
+        return true;
+    const QString problem = ::readProtocol(parser.value("protocol"), &host.controller.table.identity.protocol);
+    return problem.isEmpty() || refuse("--protocol: " + problem);
 }
 
 bool HostOptions::readFaults()

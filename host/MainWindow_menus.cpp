@@ -8,7 +8,7 @@
 #include <QWhatsThis>
 
 static constexpr int helpOrder = 10000; // behind every module's menu
-static constexpr char fileFilter[] = QT_TRANSLATE_NOOP("MainWindow", "Controller files (*.json)");
+static constexpr char fileFilter[] = QT_TRANSLATE_NOOP("MainWindow", "Controllers and recordings (*.txt)");
 
 /** Adds an entry to \a menu that calls \a slot. */
 template <typename Slot>
@@ -57,16 +57,16 @@ void MainWindow::createControllerMenu()
     QMenu* menu = menuBar()->addMenu(tr("&Controller"));
     add(menu, tr("&Reset"), tr("Puts the controller back to how it was chosen"),
         [this] { say(host->resetController()); });
-    add(menu, tr("&Open..."), tr("Reads a controller file"), [this] { openController(); });
-    add(menu, tr("&Save as..."), tr("Writes the controller's present state into a file"), [this] { saveController(); });
+    add(menu, tr("&Open..."), tr("Reads a controller file or a recording"), [this] { openController(); });
+    add(menu, tr("&Save as..."), tr("Writes the controller's present answers into a file"), [this] { saveController(); });
     menu->addSeparator();
     menu->setToolTipsVisible(true); // the open menu may hide the status bar
-    QVector<HostSetup> controllers;
+    QVector<NamedController> controllers;
     say(readNamedControllers(&controllers));
-    for (const HostSetup& named : qAsConst(controllers))
-        add(menu, named.controllerName, named.state.description, [this, named] {
+    for (const NamedController& named : qAsConst(controllers))
+        add(menu, named.name, named.table.description, [this, named] {
             say(host->chooseController(named));
-        })->setToolTip(named.state.description);
+        })->setToolTip(named.table.description);
 }
 
 void MainWindow::createHelpMenu()
@@ -90,18 +90,19 @@ void MainWindow::openController()
     const QString file = QFileDialog::getOpenFileName(this, tr("Open a controller"), {}, tr(fileFilter));
     if (file.isEmpty())
         return;
-    HostSetup read;
+    NamedController read;
     const QString problem = readController(file, &read);
     say(problem.isEmpty() ? host->chooseController(read) : problem);
 }
 
 void MainWindow::saveController()
 {
-    const QString file =
-        QFileDialog::getSaveFileName(this, tr("Save the controller"), "controller.json", tr(fileFilter));
+    QString file = QFileDialog::getSaveFileName(this, tr("Save the controller"), "controller.txt", tr(fileFilter));
     if (file.isEmpty())
         return;
-    const QString problem = saveControllerFile(file, host->controller().state());
+    if (QFileInfo(file).suffix().isEmpty())
+        file += ".txt";
+    const QString problem = ::saveController(file, host->controller().table());
     say(problem.isEmpty() ? tr("Saved to %1").arg(file) : problem);
 }
 

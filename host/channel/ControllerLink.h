@@ -8,6 +8,11 @@ struct ControllerIdentity
 {
     VersionInfo protocol = VersionInfo(0, 0, 0);
     QString model;
+
+    bool operator==(const ControllerIdentity& other) const
+    {
+        return protocol == other.protocol && model == other.model;
+    }
 };
 
 /** Below a command channel: takes one command and gives one answer. A layer passes both on to the link below it. */

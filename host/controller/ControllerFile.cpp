@@ -1,45 +1,81 @@
 #include "ControllerFile.h"
 
-#include "StateTree.h"
+#include "ControllerText.h"
+#include "RecordedTable.h"
+#include "Recording.h"
+#include "WireText.h"
 
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QCoreApplication>
+#include <QDir>
 #include <QSaveFile>
 
-namespace {
+static constexpr char suffix[] = ".txt";
 
-/** "line 3, column 7: reason" for the place where the parser stopped. */
-QString syntaxError(const QByteArray& text, const QJsonParseError& parseError)
+/** The directory of the named controllers. */
+static QString directory()
 {
-    const QByteArray before = text.left(parseError.offset);
-    const int line = before.count('\n') + 1;
-    const int column = before.size() - before.lastIndexOf('\n');
-    return QString("line %1, column %2: %3").arg(line).arg(column).arg(parseError.errorString()).simplified();
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../" CONTROLLER_DIR);
 }
 
-} // namespace
-
-QString readControllerFile(const QString& file, ControllerState* state)
+static bool isName(const QString& wanted)
 {
-    QFile input(file);
-    if (!input.open(QIODevice::ReadOnly))
-        return file + ": " + input.errorString();
-    const QByteArray text = input.readAll();
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
-    if (parseError.error != QJsonParseError::NoError)
-        return file + ": " + syntaxError(text, parseError);
-    const QString reason =
-        readState(document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array()), state);
-    return reason.isEmpty() ? reason : file + ": " + reason;
+    return !wanted.contains('/') && !wanted.endsWith(suffix);
 }
 
-QString saveControllerFile(const QString& file, const ControllerState& state)
+QString readController(const QString& wanted, NamedController* controller)
+{
+    ControllerTable table;
+    QString problem = readTable(wanted, {}, &table);
+    if (problem.isEmpty())
+        *controller = {isName(wanted) ? wanted : QFileInfo(wanted).fileName(), table};
+    return problem;
+}
+
+QString readNamedControllers(QVector<NamedController>* controllers)
+{
+    const QStringList files = QDir(directory()).entryList({QString('*') + suffix}, QDir::Files, QDir::Name);
+    for (const QString& file : files) {
+        NamedController named;
+        QString problem = readController(QFileInfo(file).completeBaseName(), &named);
+        if (!problem.isEmpty())
+            return problem;
+        if (!named.table.description.isEmpty())
+            controllers->append(named);
+    }
+    return files.isEmpty() ? directory() + ": there are no controller files" : QString();
+}
+
+QString readTable(const QString& wanted, const QStringList& files, ControllerTable* table)
+{
+    const QDir start = files.isEmpty() ? QDir() : QFileInfo(files.first()).dir();
+    const QString name = isName(wanted) ? directory() + '/' + wanted + suffix : start.filePath(wanted);
+    if (isName(wanted) && !QFileInfo::exists(name))
+        return wanted + ": there is no controller of this name; --list shows the names";
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        return name + ": " + file.errorString();
+    const QString path = QFileInfo(name).canonicalFilePath();
+    if (files.contains(path))
+        return name + ": leads back to itself";
+    const QStringList lines = linesOf(file.readAll());
+    if (lines.first() + '\n' == recordingHeader)
+        return readRecordedTable(name, table);
+    ControllerText text(table, QStringList(path) + files);
+    int number = 0;
+    for (const QString& line : lines) {
+        const QString fault = text.read(line, ++number);
+        if (!fault.isEmpty())
+            return QString("%1:%2: %3").arg(name).arg(number).arg(fault);
+    }
+    return {};
+}
+
+QString saveController(const QString& file, const ControllerTable& table)
 {
     QSaveFile output(file);
-    const QByteArray text = QJsonDocument(toTree(state).toJson().toObject()).toJson();
-    const bool isSaved = output.open(QIODevice::WriteOnly) && output.write(text) == text.size() && output.commit();
+    // flush() finds a full disk; commit() alone was seen to succeed with an empty file.
+    const QByteArray text = written(table);
+    const bool isSaved = output.open(QIODevice::WriteOnly) && output.write(text) == text.size() && output.flush()
+                         && output.commit();
     return isSaved ? QString() : file + ": " + output.errorString();
 }

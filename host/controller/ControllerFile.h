@@ -1,16 +1,33 @@
 #pragma once
 
-#include "ControllerState.h"
+#include "ControllerTable.h"
+
+#include <QStringList>
+
+/** A controller under the name by which it was chosen: the name of a named one, or of a file. */
+struct NamedController
+{
+    QString name;
+    ControllerTable table;
+};
 
 /**
- * Reads a controller file (JSON) into \a state. A field that the file leaves out keeps its value; a list that it names
- * is replaced as a whole. When the file cannot be read, names something unknown or contradicts itself, it returns one
- * line, "file: place: reason", and \a state is unchanged; else an empty text.
+ * Reads the controller \a wanted, a name, a controller file or a recording. Returns one line with file, line and fault,
+ * and \a controller is unchanged, or an empty string on success.
  */
-QString readControllerFile(const QString& file, ControllerState* state);
+QString readController(const QString& wanted, NamedController* controller);
+
+/** Reads the named controllers that have a description, by name. Returns like readController(). */
+QString readNamedControllers(QVector<NamedController>* controllers);
 
 /**
- * Writes \a state into a controller file that reads back to the same state, in place of what \a file held before. When
- * it cannot, it returns "file: reason", and \a file is unchanged; else an empty text.
+ * Reads the table \a wanted, a name or a file, on the way from \a files: the file that named it, the file that named
+ * that one, and so on. A relative path starts at the first of them. Returns like readController().
  */
-QString saveControllerFile(const QString& file, const ControllerState& state);
+QString readTable(const QString& wanted, const QStringList& files, ControllerTable* table);
+
+/**
+ * Writes \a table into \a file, in place of what it held before. Returns an error message, and \a file is unchanged, or
+ * an empty string on success.
+ */
+QString saveController(const QString& file, const ControllerTable& table);

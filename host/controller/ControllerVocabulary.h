@@ -1,41 +1,45 @@
 #pragma once
 
-#include "ControllerState.h"
+#include "CommandRecord.h"
+#include "VersionInfo.h"
 
-#include <QStringList>
+#include <QByteArrayList>
+#include <QString>
 
-/** One access to a parameter: the controller's state and what the qualifiers of the command name in it. */
-struct ParameterAccess
-{
-    ControllerState* state;
-    CardState* card = nullptr;
-    ChannelState* channel = nullptr;
-    const ModeState* mode = nullptr;
-    QStringList words = {};
-};
+/** Which values a write accepts. */
+enum class Rule { ReadOnly, Mode, Source, Frequency, Divisor, Output, Delay, Flag };
 
-/** The first protocol version, of any patch number, that knows a parameter. */
-struct ProtocolGate
-{
-    int major;
-    int minor;
-};
-
-/** A parameter of the controller: its name and how it is read and, if it can be, written. */
+/** A parameter that controllers have. */
 struct Parameter
 {
-    const char* name;
-    /** A letter a qualifier: d card, c channel of that card, t mode, w any word. */
-    const char* qualifiers;
-    ProtocolGate since;
-    /** The value as text; a null text when there is none. */
-    QString (*get)(const ParameterAccess&);
-    /** False, and nothing changed, when the value lies outside the limits. Null for a parameter that is read only. */
-    bool (*set)(ParameterAccess&, const QString& value);
+    /** Name and qualifiers. NN stands for a number, WORD for any word. */
+    const char* form;
+    /** The first protocol that has the parameter, whatever its patch number. */
+    int major;
+    int minor;
+    Rule rule;
+
+    bool isKnownTo(const VersionInfo& protocol) const { return protocol >= VersionInfo(major, minor, -1); }
 };
 
+/** A command taken apart. */
+struct Request
+{
+    /** A raw \a command begins with "zorvan2 get" or "zorvan2 set". */
+    Request(Operation operation, const QByteArray& command);
+
+    bool isRaw;
+    bool isSet;
+    const Parameter* parameter = nullptr; // null if no controller has it
+    QByteArray name;                      // the parameter with its qualifiers: "synccard source d01"
+    QByteArray value;                     // of a write: "video"
+};
+
+/** Returns "NAME is unknown; the nearest is ...", with the one of \a known that begins most like \a name. */
+QString unknown(const QByteArray& name, const QByteArrayList& known);
+
 /**
- * The parameter that \a words (name and qualifiers, such as "synccard", "source", "d01") name at the state's
- * protocol, with its qualifiers resolved into \a access; null when there is none.
+ * Returns what is wrong with \a command as a row of a table, such as a misspelt parameter, or an empty string. Such a
+ * command may have its operation in front, and a write may lack its value.
  */
-const Parameter* findParameter(const QStringList& words, ParameterAccess* access);
+QString commandFault(const QByteArray& command);

@@ -1,32 +1,41 @@
 #pragma once
 
-#include "ControllerState.h"
+#include "ControllerTable.h"
 
 #include <QObject>
 
+struct Request;
+
 /**
- * A tracking controller with synccards, without the hardware: a get reads its state, a set changes it. Unknown
- * commands, commands newer than its protocol, values outside its limits and sets while it is locked fail and change
- * nothing.
+ * A tracking controller with synccards, without the hardware. A read is answered from its table, a write changes the
+ * table. Commands newer than its protocol, writes that a rule refuses, and everything that the table does not answer
+ * fail and change nothing.
  */
 class SimulatedController : public QObject, public ControllerLink
 {
     Q_OBJECT
 
 public:
-    explicit SimulatedController(const ControllerState& initial) : current(initial) {}
+    explicit SimulatedController(const ControllerTable& initial) : current(initial) {}
 
-    /** A raw command is "zorvan2 get ..." or "zorvan2 set ...". Its reply line repeats it; the value of a get follows.
+    /** A raw command is "zorvan2 get ..." or "zorvan2 set ...". Its reply line repeats it. The value of a read follows.
      */
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
-    const ControllerState& state() const { return current; }
-    void setState(const ControllerState& state);
+    const ControllerTable& table() const { return current; }
+    void setTable(const ControllerTable& table);
 
 signals:
-    /** The state has changed, by a command or by setState(). */
+    /** The table has changed, by a command or by setTable(). */
     void changed();
 
 private:
-    ControllerState current;
+    bool write(const Request& request);
+    bool accepts(const Request& request) const;
+    bool isBetween(const QByteArray& value, double minimum, const QByteArray& maximumCommand) const;
+    void followSource(const QByteArray& card, const QByteArray& source);
+    void store(const QByteArray& name, const QByteArray& value);
+    QByteArray answerTo(const QByteArray& command) const;
+
+    ControllerTable current;
 };

@@ -1,81 +1,127 @@
 #include "ControllerModel.h"
 
+#include "ControllerText.h"
 #include "DevelopmentHost.h"
 
 #include <QFont>
 
-namespace {
+#include <algorithm>
 
-void showName(QStandardItem* item, const QString& name, bool isChanged)
+/** The rows above the answers. */
+enum HeaderRow { ProtocolRow, ModelRow, HeaderRowCount };
+
+ControllerModel::ControllerModel(DevelopmentHost* host)
+    : host(host), shown(host->controller().table()), marked(shown)
 {
-    item->setText(isChanged ? name + " *" : name);
-    QFont font = item->font();
-    font.setBold(isChanged);
-    item->setFont(font);
-}
-
-void showValue(QStandardItem* item, const StateNode& field)
-{
-    item->setData(field.place, ControllerModel::PlaceRole);
-    const bool isFlag = field.rule.form == FieldRule::Flag;
-    item->setData(isFlag ? QStringList{"true", "false"} : field.rule.choices, ControllerModel::ChoicesRole);
-    item->setData(isFlag || field.rule.form == FieldRule::Choice, ControllerModel::IsChoiceRole);
-    item->setText(field.value.toVariant().toString());
-}
-
-} // namespace
-
-ControllerModel::ControllerModel(DevelopmentHost* host) : host(host), marked(host->controller().state())
-{
-    setHorizontalHeaderLabels({tr("Name"), tr("Value"), tr("Unit")});
-    refresh();
-    // Refreshed from the event loop: a burst of commands is shown once, and no opening of the dialog waits for the
-    // tree.
+    // A burst of commands is shown once, and no opening of the dialog waits for the table.
     timer.setSingleShot(true);
     connect(&host->controller(), &SimulatedController::changed, &timer, QOverload<>::of(&QTimer::start));
     connect(&timer, &QTimer::timeout, this, &ControllerModel::refresh);
 }
 
+int ControllerModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : HeaderRowCount + shown.rows().size();
+}
+
+QVariant ControllerModel::data(const QModelIndex& index, int role) const
+{
+    const QStringList cells = lineAt(index.row()).split(" = ");
+    if (role == Qt::FontRole) {
+        QFont font;
+        font.setBold(isChanged(index.row()));
+        return font;
+    }
+    if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole)
+        return {};
+    if (index.column() == CommandColumn)
+        return cells.first() + (isChanged(index.row()) ? " *" : "");
+    return cells.mid(1).join(" = ");
+}
+
+QVariant ControllerModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const bool isTitle = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return isTitle ? (section == CommandColumn ? "Command" : "Answer") : QVariant();
+}
+
+Qt::ItemFlags ControllerModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags plain = QAbstractTableModel::flags(index);
+    return index.column() == AnswerColumn ? plain | Qt::ItemIsEditable : plain;
+}
+
+bool ControllerModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role == Qt::EditRole && value != data(index, role))
+        change(lineAt(index.row()).section(" = ", 0, 0) + " = " + value.toString());
+    return true;
+}
+
+QString ControllerModel::lineAt(int row) const
+{
+    if (row == ProtocolRow)
+        return "protocol = " + shown.identity.protocol.toString();
+    if (row == ModelRow)
+        return "model = " + written(shown.identity.model.toLatin1());
+    const AnswerRow& answer = shown.rows().at(row - HeaderRowCount);
+    return writtenCommand(answer) + " = " + writtenAnswer(answer);
+}
+
+void ControllerModel::change(const QString& lines)
+{
+    ControllerTable table = host->controller().table();
+    QString problem = changeTable(&table, lines);
+    if (problem.isEmpty())
+        problem = host->changeController(table);
+    refresh();
+    emit edited(problem);
+}
+
+void ControllerModel::remove(const QVector<int>& rows)
+{
+    ControllerTable table = host->controller().table();
+    bool hasHeader = false;
+    for (const int row : rows) {
+        hasHeader = hasHeader || row < HeaderRowCount;
+        if (row >= HeaderRowCount)
+            table.remove(shown.rows().at(row - HeaderRowCount).command);
+    }
+    if (!hasHeader)
+        host->changeController(table);
+    refresh();
+    emit edited(hasHeader ? "Protocol and model cannot be removed" : QString());
+}
+
 void ControllerModel::markFromNow()
 {
-    marked = host->controller().state();
-    timer.start();
+    marked = host->controller().table();
+    refresh();
 }
 
+/** Keeps selection and scroll position unless there are other rows. */
 void ControllerModel::refresh()
 {
-    show(invisibleRootItem(), toTree(host->controller().state()), toTree(marked));
+    const ControllerTable& table = host->controller().table();
+    const auto isSame = [](const AnswerRow& a, const AnswerRow& b) { return a.command == b.command; };
+    const bool hasSameRows =
+        std::equal(shown.rows().begin(), shown.rows().end(), table.rows().begin(), table.rows().end(), isSame);
+    if (!hasSameRows)
+        beginResetModel();
+    shown = table;
+    if (!hasSameRows)
+        endResetModel();
+    else
+        emit dataChanged(index(0, CommandColumn), index(rowCount() - 1, AnswerColumn));
 }
 
-/** Shows the children of \a node below \a parent; \a before is the node as it was when marked. */
-void ControllerModel::show(QStandardItem* parent, const StateNode& node, const StateNode& before)
+bool ControllerModel::isChanged(int row) const
 {
-    if (parent->rowCount() > node.children.size())
-        parent->setRowCount(node.children.size());
-    for (int row = 0; row < node.children.size(); ++row) {
-        const StateNode& child = node.children.at(row);
-        const StateNode childBefore = before.children.value(row);
-        if (row == parent->rowCount())
-            parent->appendRow({new QStandardItem, new QStandardItem, new QStandardItem});
-        for (int column = 0; column < columnCount(); ++column)
-            parent->child(row, column)->setEditable(column == ValueColumn && child.isField());
-        QStandardItem* name = parent->child(row, NameColumn);
-        showName(name, child.name, child.toLines() != childBefore.toLines());
-        parent->child(row, UnitColumn)->setText(child.rule.unit);
-        if (child.isField())
-            showValue(parent->child(row, ValueColumn), child);
-        else
-            show(name, child, childBefore);
-    }
-}
-
-bool ControllerModel::setData(const QModelIndex& index, const QVariant& value, int /*role*/)
-{
-    ControllerState state = host->controller().state();
-    QString reason = editField(index.data(PlaceRole).toString(), value.toString(), &state);
-    if (reason.isEmpty())
-        reason = host->changeState(state);
-    emit edited(reason);
-    refresh();
-    return reason.isEmpty();
+    if (row == ProtocolRow)
+        return shown.identity.protocol != marked.identity.protocol;
+    if (row == ModelRow)
+        return shown.identity.model != marked.identity.model;
+    const AnswerRow& answer = shown.rows().at(row - HeaderRowCount);
+    const AnswerRow* const before = marked.find(answer.command);
+    return !before || before->answer != answer.answer || before->isFailure != answer.isFailure;
 }

@@ -2,22 +2,24 @@
 
 #include "ControllerModel.h"
 
-#include <QTreeView>
+#include <QSortFilterProxyModel>
+#include <QTableView>
 
 class DevelopmentHost;
 
-/** Shows and edits the state of the host's simulated controller. Does not own the host. */
-class ControllerPane : public QTreeView
+/** Shows and edits the table of the host's simulated controller. Does not own the host. */
+class ControllerPane : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit ControllerPane(DevelopmentHost* host);
 
-signals:
-    /** A value was edited; \a text says why it was refused, and is empty if it was taken. */
-    void said(const QString& text);
-
 private:
+    void addActions();
+    QVector<int> selectedRows() const;
+
     ControllerModel model;
+    QSortFilterProxyModel filtered;
+    QTableView* table;
 };

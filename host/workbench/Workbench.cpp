@@ -50,7 +50,6 @@ Workbench::Workbench(DevelopmentHost* host)
     });
     if (!host->isReplaying()) {
         auto* controller = new ControllerPane(host);
-        connect(controller, &ControllerPane::said, message, &QLabel::setText);
         tabs->addTab(controller, tr("C&ontroller"));
     }
     auto* layout = new QVBoxLayout(this);

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ControllerLink.h"
+
+#include <QHash>
+#include <QVector>
+
+/** What a controller answers to one command. */
+struct AnswerRow
+{
+    /** "synccard source d01"; with an operation in front, "set synccard source d01", the row is for that one only. */
+    QByteArray command;
+    QByteArray answer;
+    bool isFailure = false; // The command fails.
+    int line = 0;           // of the file that gave the row, from 1; 0 if another file or a write did
+};
+
+/** A simulated controller: its identity, and its answers in a fixed order, one row per command. A plain value. */
+class ControllerTable
+{
+public:
+    QString description; // One line for the list of controllers. The controller itself never sends it.
+    ControllerIdentity identity = {VersionInfo(1, 23, 0), {}};
+
+    const QVector<AnswerRow>& rows() const { return list; }
+    /** Returns the row of \a command, or null. The next change makes the pointer invalid. */
+    const AnswerRow* find(const QByteArray& command) const;
+    /** Replaces the row with the same command, or appends \a row. */
+    void insert(const AnswerRow& row);
+    /** Removes the row of \a command, if there is one. */
+    void remove(const QByteArray& command);
+    /** Makes all rows look as if another file had given them. */
+    void forgetLines();
+
+private:
+    QVector<AnswerRow> list;
+    QHash<QByteArray, int> positions; // in the list, by command
+};

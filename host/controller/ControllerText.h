@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ControllerTable.h"
+
+#include <QSet>
+#include <QStringList>
+
+/**
+ * Reads the lines of a controller file into a table, one by one. docs/workbench.md describes the format. A line replaces
+ * what the table held before, but none may stand twice.
+ */
+class ControllerText
+{
+public:
+    /** \a files are the file that is read and those that led to it by "from", last first; none for pasted lines. */
+    explicit ControllerText(ControllerTable* table, const QStringList& files = {}) : table(table), files(files) {}
+
+    /** Reads \a line, which has \a number in its file. Returns what is wrong with it, or an empty string. */
+    QString read(const QString& line, int number);
+
+private:
+    QString readHeader(const QString& key, const QString& value);
+    QString readBase(const QString& name);
+    QString readAnswer(const QString& command, const QString& answer, int number);
+
+    ControllerTable* table;
+    QStringList files;
+    QSet<QString> seen; // the left sides of the lines
+    bool hasAnswers = false;
+};
+
+/** Reads "1.23" or "1.23.0" into \a protocol. Returns an error message, or an empty string on success. */
+QString readProtocol(const QString& text, VersionInfo* protocol);
+
+/** Changes \a table by \a lines. Returns "line 2: fault", and \a table is unchanged, or an empty string on success. */
+QString changeTable(ControllerTable* table, const QString& lines);
+
+/** How a controller file writes a text. */
+QString written(const QByteArray& text);
+/** How a controller file writes the command of \a row. */
+QString writtenCommand(const AnswerRow& row);
+/** How a controller file writes the answer of \a row. */
+QString writtenAnswer(const AnswerRow& row);
+/** Writes all of \a table as a controller file, which reads back to the same table. */
+QByteArray written(const ControllerTable& table);
