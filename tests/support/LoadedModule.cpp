@@ -27,9 +27,13 @@ LoadedModule::LoadedModule(const QString& versionsText, const QByteArray& script
     : channel(&link), versions(backend(versionsText)), parent(new QWidget), loader(PLUGIN_FILE)
 {
     failOnWarnings();
+    connectTo(versionsText);
     const QByteArrayList changes = script.split(';');
-    for (const QByteArray& change : changes)
-        link.script(change);
+    for (const QByteArray& change : changes) {
+        const QString fault = link.script(change);
+        if (!fault.isEmpty())
+            qFatal("%s", qPrintable(fault));
+    }
     link.listen(channel);
     if (!loader.load())
         qFatal("%s", qPrintable(loader.errorString()));
@@ -38,6 +42,14 @@ LoadedModule::LoadedModule(const QString& versionsText, const QByteArray& script
     QObject::connect(&boxPoller, &QTimer::timeout, &boxPoller, [this] { closeBox(); });
     boxPoller.start(pollMilliseconds);
     parent->show();
+}
+
+void LoadedModule::connectTo(const QString& versionsText)
+{
+    versions = backend(versionsText);
+    ControllerTable table = link.table();
+    table.identity = {versions.protocol(), versions.hubModel()};
+    link.setTable(table);
 }
 
 LoadedModule::~LoadedModule()

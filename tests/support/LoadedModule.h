@@ -5,7 +5,7 @@
 #include "DialogText.h"
 #include "DialogUser.h"
 #include "ModuleLoader.h"
-#include "ScriptedLink.h"
+#include "ScriptedController.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -19,6 +19,9 @@ public:
     /** \a versionsText is protocol and model, \a script changes the standard answers. */
     explicit LoadedModule(const QString& versionsText = "1.23 FERNBANK", const QByteArray& script = QByteArray());
     ~LoadedModule();
+
+    /** Connects to a controller with the protocol and model in \a versionsText. */
+    void connectTo(const QString& versionsText);
 
     QDialog* dialog() const { return qobject_cast<QDialog*>(element->content); }
     /** Uses the dialog that exists now. */
@@ -44,7 +47,7 @@ public:
     /** Content and state of the named widget, as textOfWidget() puts it. */
     QByteArray see(const QByteArray& name) const { return textOfWidget(find<QWidget>(name)).toUtf8(); }
 
-    ScriptedLink link;
+    ScriptedController link;
     ControllerChannel channel;
     BackendVersions versions;
     QPointer<QWidget> parent;

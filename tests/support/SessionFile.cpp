@@ -1,5 +1,6 @@
 #include "SessionFile.h"
 
+#include "ControllerVocabulary.h"
 #include "Files.h"
 
 #include <QFileInfo>
@@ -7,16 +8,6 @@
 #include <QTest>
 
 #include <algorithm>
-
-QString unknown(const QByteArray& name, const QByteArrayList& known)
-{
-    const auto alike = [&](const QByteArray& other) {
-        return std::mismatch(name.begin(), name.end(), other.begin(), other.end()).first - name.begin();
-    };
-    const auto isLess = [&](const QByteArray& a, const QByteArray& b) { return alike(a) < alike(b); };
-    const QByteArray nearest = *std::max_element(known.begin(), known.end(), isLess);
-    return QString(R"("%1" is unknown; the nearest is "%2")").arg(QString(name), QString(nearest));
-}
 
 QByteArray Session::text(const QByteArray& key, const QByteArray& otherwise) const
 {
@@ -30,8 +21,7 @@ QString Session::problem(const QString& what, int line) const
 
 SessionFile::SessionFile(const QString& path, const QByteArrayList& keys) : file(QFileInfo(path).fileName().toUtf8())
 {
-    QByteArray all = readFile(path);
-    const QByteArrayList lines = all.replace("\\s", " ").replace("\\t", "\t").replace("\\e", "\xE4").split('\n');
+    const QByteArrayList lines = readFile(path).split('\n');
     for (const QByteArray& line : lines) {
         ++number;
         const int blank = (line + ' ').indexOf(' ');
@@ -54,9 +44,13 @@ void SessionFile::readLine(const QByteArray& key, const QByteArray& value, const
     } else {
         demand(keys.contains(key), "key " + unknown(key, keys + QByteArrayList{"case", "list"}));
         demand(!sessions.isEmpty(), "no case has begun");
+        // An answer is a line of a controller file, which has escapes of its own.
+        const auto isAnswer = [&](const QByteArray& text) {
+            return key.endsWith("answer") || key.endsWith("later") || text.startsWith("answer ");
+        };
         const QByteArrayList texts = sessions.isEmpty() ? QByteArrayList() : expanded(value);
         for (const QByteArray& text : texts)
-            sessions.last().lines[key].append({text, number});
+            sessions.last().lines[key].append({isAnswer(text) ? text : QByteArray(text).replace("\\x20", " "), number});
     }
 }
 

@@ -51,8 +51,5 @@ private:
     int number = 0;
 };
 
-/** "... is unknown; the nearest is ...": the one that begins most alike. */
-QString unknown(const QByteArray& name, const QByteArrayList& known);
-
 /** One row for each case and protocol of a file of tests/data, for a test with the parameter "session". */
 void addSessions(const char* name, const QByteArrayList& keys);

@@ -1,5 +1,7 @@
 #include "SessionRun.h"
 
+#include "ControllerVocabulary.h"
+
 #include <QAccessible>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -75,7 +77,7 @@ QString act(LoadedModule& module, const SessionLine& line)
         {"take", [&] { delete table->takeItem(row, column); }},
         {"walk", [&] { problem = walk(dialog, keyOf(words.value(1))); }},
         {"poll", [&] { run("poll_input_frequency"); }},
-        {"answer", [&] { module.link.script(line.text.mid(action.size() + 1), line.number); }},
+        {"answer", [&] { problem = module.link.script(line.text.mid(action.size() + 1), line.number); }},
         {"leave", [&] { dialog->isVisible() ? user.leave(words.value(1)) : leaveHidden(); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
@@ -132,8 +134,8 @@ void SessionRun::open(const QByteArray& newPrefix, const QByteArray& newWay)
     prefix = newPrefix;
     way = newWay;
     isOk = false;
-    module.versions = backend(session.text(prefix + "protocol", session.text("protocol", "1.23")));
-    module.link.script(lines("answer"));
+    module.connectTo(session.text(prefix + "protocol", session.text("protocol", "1.23")));
+    answer("answer");
     interruptions = lines("during");
     module.link.during = [this](const QByteArray& text) { interrupt(text); };
     QObject::connect(module.dialog(), &QDialog::finished, &module.channel, [this] { interrupt("finished"); });
@@ -156,7 +158,7 @@ void SessionRun::open(const QByteArray& newPrefix, const QByteArray& newWay)
 void SessionRun::useAndLeave()
 {
     compareOpening();
-    module.link.script(lines("later"));
+    answer("later");
     const SessionLines actions = lines("user");
     for (const SessionLine& line : actions) {
         const QString undone = act(module, line);
@@ -230,6 +232,16 @@ void SessionRun::interrupt(const QByteArray& text)
     const QString undone = act(module, action);
     demand(undone.isEmpty(), undone, action.number);
     QCoreApplication::processEvents();
+}
+
+/** Gives the controller the answers in the lines with \a key. */
+void SessionRun::answer(const QByteArray& key)
+{
+    const SessionLines changes = lines(key);
+    for (const SessionLine& line : changes) {
+        const QString fault = module.link.script(line.text, line.number);
+        demand(fault.isEmpty(), fault, line.number);
+    }
 }
 
 void SessionRun::demand(bool condition, const QString& otherwise, int line)

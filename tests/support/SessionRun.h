@@ -19,6 +19,7 @@ private:
     explicit SessionRun(const Session& session) : session(session) {}
     void open(const QByteArray& newPrefix, const QByteArray& newWay);
     void useAndLeave();
+    void answer(const QByteArray& key);
     void compareOpening();
     void compareWidgets(const QByteArray& key);
     void compareLines(const QString& what, const QByteArrayList& found, const SessionLines& expected);

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "CommandRecord.h"
-#include "ControllerLink.h"
 #include "SessionFile.h"
+#include "SimulatedController.h"
 
 #include <QSet>
-#include <QVector>
 
 #include <functional>
 #include <utility>
@@ -13,29 +11,23 @@
 class ControllerChannel;
 
 /**
- * The controller of most tests: answers from a table, takes over what is set, and fails what it is told to fail. It
- * keeps each command behind its operation ("get synccard available"), and each report of the channel above it.
+ * The controller of most tests: tests/data/standard-controller.txt, changed by the lines of a case. It can fail commands
+ * by their number, and keeps each command behind its operation ("get synccard available"), and each report of the
+ * channel above it.
  */
-class ScriptedLink : public ControllerLink
+class ScriptedController : public SimulatedController
 {
 public:
-    struct Answer
-    {
-        QByteArray text;
-        int line; // of the session file that gave it; 0 for a standard answer
-    };
-    /** By command, "!" for one that fails; a command behind its operation means that operation only. */
-    using Answers = QMap<QByteArray, Answer>;
+    ScriptedController();
 
-    /** Answers as tests/data/standard-controller.txt says. */
-    ScriptedLink();
-
-    /** Changes an answer: "COMMAND=ANSWER", or "maybe COMMAND=ANSWER" for one that may stay unasked. */
-    void script(QByteArray change, int line = 0);
-    void script(const SessionLines& changes);
+    /**
+     * Changes the table by a line of a controller file, with "maybe " in front of one that may stay unasked. Returns
+     * what is wrong with the line, or an empty string.
+     */
+    QString script(const QByteArray& line, int number = 0);
 
     /** Forgets what was asked and reported. Fails the commands from \a first to the one before \a end, from 0. */
-    void restart(const Answers& newAnswers, int first = 0, int end = 0);
+    void restart(const ControllerTable& table, int first = 0, int end = 0);
 
     /** Keeps what \a channel carries and what is reported to it. */
     void listen(const ControllerChannel& channel);
@@ -48,7 +40,6 @@ public:
     /** Called in each command, report and message box with its text, as what runs an event loop would. */
     std::function<void(const QByteArray& text)> during = [](const QByteArray&) {};
 
-    Answers answers;
     QByteArrayList commands;
     QVector<int> failed;  // positions in commands
     QSet<int> askedLines; // lines whose answers were asked for

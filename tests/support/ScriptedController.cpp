@@ -1,0 +1,69 @@
+#include "ScriptedController.h"
+
+#include "ControllerChannel.h"
+#include "ControllerFile.h"
+#include "ControllerText.h"
+#include "ControllerVocabulary.h"
+
+static ControllerTable standardTable()
+{
+    NamedController standard;
+    const QString problem = readController(DATA_DIR "/standard-controller.txt", &standard);
+    if (!problem.isEmpty())
+        qFatal("%s", qPrintable(problem));
+    standard.table.forgetLines();
+    return standard.table;
+}
+
+ScriptedController::ScriptedController() : SimulatedController(standardTable())
+{}
+
+QString ScriptedController::script(const QByteArray& line, int number)
+{
+    ControllerTable changed = table();
+    const QString change = QString::fromLatin1(line.startsWith("maybe ") ? line.mid(6) : line);
+    QString fault = ControllerText(&changed).read(change, number);
+    if (fault.isEmpty())
+        setTable(changed);
+    return fault;
+}
+
+void ScriptedController::restart(const ControllerTable& table, int first, int end)
+{
+    setTable(table);
+    firstFailing = first;
+    endOfFailing = end;
+    commands.clear();
+    failed.clear();
+    reports.clear();
+}
+
+void ScriptedController::listen(const ControllerChannel& channel)
+{
+    QObject::connect(&channel, &ControllerChannel::executed, &channel, [this](const CommandRecord& record) {
+        if (record.result != 0)
+            failed.append(commands.size());
+        commands.append(record.text());
+    });
+    QObject::connect(&channel, &ControllerChannel::reported, &channel,
+                     [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
+                         const bool isConvention = category == "standard" && systemTag == "ZORVAN3" && flag == 1;
+                         reports.append((isConvention ? "" : "wrong convention: ") + message.toLatin1());
+                         during(message.toLatin1());
+                     });
+}
+
+bool ScriptedController::execute(Operation operation, const QByteArray& command, QByteArray* answer)
+{
+    const QByteArray text = textOf(operation, command);
+    during(text);
+    if (commands.size() >= firstFailing && commands.size() < endOfFailing)
+        return false;
+    const Request request(operation, command);
+    const QByteArray ofParameter = request.isSet ? "set " + request.name : request.name;
+    for (const QByteArray& row : {text, command, ofParameter}) {
+        if (table().find(row))
+            askedLines.insert(table().find(row)->line);
+    }
+    return SimulatedController::execute(operation, command, answer);
+}
