@@ -1,19 +1,20 @@
 #include "ControllerChannel.h"
 #include "ControllerFile.h"
+#include "ControllerText.h"
 #include "Faults.h"
 #include "Files.h"
 #include "Recording.h"
 #include "SimulatedController.h"
-#include "StateTree.h"
+#include "WireText.h"
 
 #include <QElapsedTimer>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include <clocale>
+#include <csignal>
+#include <sys/resource.h>
 
 /** The simulated controller and its files, the command channel, the faults below it, recordings, and versions. */
 class TestController : public QObject
@@ -25,9 +26,10 @@ private slots:
     void comparesVersions();
     void answers_data() { addRows("controller-answers.txt"); }
     void answers();
-    void describesEveryField();
-    void readsControllerFiles_data() { addRows("controller-files.txt"); }
-    void readsControllerFiles();
+    void refusesControllerFiles_data() { addTexts("controller-files.txt"); }
+    void refusesControllerFiles();
+    void savesControllers();
+    void answersAsRecorded();
     void refusesAnswers();
     void breaksCommands();
     void readsRecordings_data() { addTexts("recordings.txt"); }
@@ -50,84 +52,154 @@ void TestController::comparesVersions()
     }
 }
 
-/** The last of some commands is answered or taken as the table says; a locked or too old controller takes no set. */
+static ControllerTable full()
+{
+    NamedController controller;
+    const QString problem = readController("full", &controller);
+    return problem.isEmpty() ? controller.table : ControllerTable();
+}
+
+/** Carries out \a command, such as "get synccard available". Returns "ok", "failed", or the value of a read. */
+static QByteArray outcome(SimulatedController* controller, const QByteArray& command)
+{
+    const QMap<QByteArray, Operation> operations = {
+        {"raw", Operation::Send}, {"get", Operation::Get}, {"bool", Operation::Bool}, {"set", Operation::Set}};
+    const int blank = command.indexOf(' ');
+    QByteArray answer;
+    if (!controller->execute(operations.value(command.left(blank)), command.mid(blank + 1), &answer))
+        return "failed";
+    return command.startsWith("set") ? "ok" : answer;
+}
+
 void TestController::answers()
 {
     QFETCH(QByteArray, left);
-    SimulatedController controller(ControllerState::builtIn());
-    QByteArray line;
-    const auto execute = [&](const QString& command) {
-        return controller.execute(Operation::Send, "zorvan2 " + command.toLatin1(), &line);
-    };
-    const QStringList commands = QString(left).split("; ");
-    bool isTaken = false;
-    for (const QString& command : commands)
-        isTaken = execute(command);
-    const bool isSet = commands.last().startsWith("set");
-    const QByteArray value = isSet ? "ok" : line.mid(commands.last().size() + 9);
-    QTEST(isTaken ? value : "failed", "right");
-    ControllerState locked = ControllerState::builtIn();
-    locked.locked = true;
-    controller.setState(locked);
-    QVERIFY(!isSet || !execute(commands.last()));
-    locked.protocol = VersionInfo(0, 7, 9);
-    controller.setState(locked);
-    QVERIFY(!execute(commands.last()));
+    QFETCH(QByteArray, right);
+    SimulatedController controller(full());
+    QByteArray found;
+    const QStringList steps = QString(left).split("; ");
+    for (const QString& step : steps) {
+        ControllerTable table = controller.table();
+        if (step.contains(" ="))
+            QCOMPARE(changeTable(&table, step), QString());
+        controller.setTable(table);
+        if (!step.contains(" ="))
+            found = outcome(&controller, step.toLatin1());
+    }
+    QCOMPARE(found, unescaped(right));
 }
 
-/** The table of docs/workbench.md names each field at its place. One that is added to a record without a rule fails to
- * build here, or to pass. */
-void TestController::describesEveryField()
-{
-    const ControllerState state = ControllerState::builtIn();
-    [[maybe_unused]] const auto& [s1, s2, s3, s4, s5, s6, modes, s8, cards, s10] = state;
-    [[maybe_unused]] const auto& [m1, m2] = modes.first();
-    [[maybe_unused]] const auto& [c1, c2, c3, sources, c5, c6, c7, c8, c9, c10, channels] = cards.first();
-    [[maybe_unused]] const auto& [o1, o2, outputs] = sources.first();
-    [[maybe_unused]] const auto& [h1, h2] = channels.first();
-    static const QRegularExpression number(" \\d+|:.*");
-    QStringList described = toTree(state).toLines().replaceInStrings(number, "");
-    described.removeDuplicates();
-    QCOMPARE(described.size(), 10 - 2 + 2 + 11 - 2 + 3 + 2); // the fields above, but for the four lists of records
-    QStringList documented;
-    static const QRegularExpression row("^\\| `([^`]+)`", QRegularExpression::MultilineOption);
-    auto rows = row.globalMatch(readFile(DATA_DIR "/../../docs/workbench.md"));
-    while (rows.hasNext())
-        documented.append(rows.next().captured(1));
-    QCOMPARE(documented, described);
-}
-
-/** What is refused changes nothing; a file that names everything is what the controller is then. */
-void TestController::readsControllerFiles()
+void TestController::refusesControllerFiles()
 {
     QFETCH(QByteArray, left);
     QFETCH(QByteArray, right);
     const QTemporaryDir folder;
-    const QString file = folder.filePath("controller.json");
-    writeFile(file, left);
-    ControllerState state = ControllerState::builtIn();
-    const ControllerState before = state;
-    const bool isGood = right == "taken" || right == "whole";
-    QCOMPARE(readControllerFile(file, &state), isGood ? QString() : file + ": " + right);
-    QVERIFY(isGood || toTree(before).toLines() == toTree(state).toLines());
-    QVERIFY(right != "whole" || toTree(state).toJson() == QJsonDocument::fromJson(left).object());
+    const QString file = folder.filePath("a.txt");
+    writeFile(file, left.replace("\\e", "\xE4"));
+    writeFile(folder.filePath("b.txt"), "x\n");
+    NamedController controller{"before", {}};
+    const QByteArray expected = right.replace("DIRECTORY", folder.path().toLatin1());
+    QCOMPARE(readController(file, &controller), file + ':' + expected);
+    QCOMPARE(controller.name, "before");
 }
 
-/** A text that just fits is taken whole, one character more fails; so does a text in place of a number or flag. */
+/** What is saved reads back to the same table. A file that cannot be written whole stays as it was. */
+void TestController::savesControllers()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("a.txt");
+    QVector<NamedController> controllers;
+    QCOMPARE(readNamedControllers(&controllers), QString());
+    ControllerTable odd;
+    odd.description = " a\\b\x09";
+    odd.identity.model = "\xE4 ";
+    odd.insert({"synccard mode t01", "!"});
+    odd.insert({"synccard mode_desc a=[1-2] ", " \n"});
+    odd.insert({"set synccard source d01", "", true});
+    odd.insert({"set synccard source d02", ""});
+    controllers.append({"odd", odd});
+    for (const NamedController& saved : qAsConst(controllers)) {
+        NamedController read;
+        QCOMPARE(saveController(file, saved.table), QString());
+        QCOMPARE(readController(file, &read), QString());
+        QCOMPARE(written(read.table), written(saved.table));
+        QCOMPARE(read.table.rows().size(), saved.table.rows().size());
+        for (const AnswerRow& row : saved.table.rows()) {
+            QVERIFY(read.table.find(row.command));
+            QCOMPARE(read.table.find(row.command)->answer, row.answer);
+            QCOMPARE(read.table.find(row.command)->isFailure, row.isFailure);
+        }
+    }
+    const QByteArray before = readFile(file);
+    rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit small = {100, limit.rlim_max};
+    auto* const previous = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    const QString problem = saveController(file, full());
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, previous);
+    QCOMPARE(problem, file + ": File too large");
+    QCOMPARE(readFile(file), before);
+}
+
+/** The first connection of a recording is a controller: what it was first asked, and for the rest "full". */
+void TestController::answersAsRecorded()
+{
+    const QString file = DATA_DIR "/recorded-controller.txt";
+    NamedController recorded;
+    QCOMPARE(readController(file, &recorded), QString());
+    QCOMPARE(connectionText(recorded.table.identity), QByteArray("connect 1.10.0 FERNBANK 2"));
+    QVERIFY2(recorded.table.description.startsWith("Recording recorded-controller.txt: 8 answers, ")
+                 && recorded.table.description.endsWith(" more as in full, 1 unknown commands left out"),
+             qPrintable(recorded.table.description));
+    SimulatedController controller(recorded.table);
+    const QByteArrayList expected = {
+        "get synccard available: yes",
+        "bool synccard has_input_frequency: failed", // one operation failed, another did not
+        "get synccard has_input_frequency: yes",
+        "raw zorvan2 get synccard active_mode: zorvan2 get synccard active_mode cam100",
+        "raw zorvan2 get synccard mode_desc cam100: no echo",
+        "get synccard internal_frequency d01: 75",
+        "get synccard source d01: internal",
+        "get synccard synccard d01: 0x0402 10427",
+        "set synccard source d01 ttl: failed",
+        "set synccard source d01 video: ok",
+        "get synccard source d01: video",
+        "set synccard active_mode none: ok",
+        "raw zorvan2 get synccard active_mode: zorvan2 get synccard active_mode none",
+    };
+    for (const QByteArray& line : expected) {
+        const QByteArray command = line.left(line.indexOf(':'));
+        QCOMPARE(command + ": " + outcome(&controller, command), line);
+    }
+    const QTemporaryDir folder;
+    const QString other = folder.filePath("b.txt");
+    writeFile(other, "from = " + file.toUtf8() + "\nsynccard internal_frequency d01 = 80\n");
+    QCOMPARE(readController(other, &recorded), QString());
+    QCOMPARE(recorded.table.find("synccard internal_frequency d01")->answer, QByteArray("80"));
+    QCOMPARE(recorded.table.description, QString());
+    writeFile(other, readFile(file).chopped(1));
+    QCOMPARE(readController(other, &recorded), other + ":15: cut off: the last line has no line end");
+}
+
+/** A text that just fits is taken whole, one character more fails. So does a text in place of a number or flag. */
 void TestController::refusesAnswers()
 {
-    ControllerState state = ControllerState::builtIn();
-    SimulatedController controller(state);
+    ControllerTable table = full();
+    SimulatedController controller(table);
     ControllerChannel channel(&controller);
     char answer[200];
     for (const bool fits : {true, false}) {
-        state.input = QString(fits ? 199 : 200, 'x');
-        state.cards[0].output = QString(fits ? 99 : 100, 'y');
-        controller.setState(state);
+        const QByteArray input(fits ? 199 : 200, 'x');
+        const QByteArray output(fits ? 99 : 100, 'y');
+        table.insert({"synccard input_frequency", input});
+        table.insert({"synccard output d01", output});
+        controller.setTable(table);
         QCOMPARE(channel.getParameter(answer, "synccard input_frequency") == 0, fits);
-        QVERIFY(!fits || answer == state.input);
+        QVERIFY(!fits || answer == input);
         QCOMPARE(channel.getParameter(answer, "synccard output d01") == 0, fits);
-        QVERIFY(!fits || answer == state.cards[0].output);
+        QVERIFY(!fits || answer == output);
     }
     int number = 0;
     bool flag = false;
@@ -137,7 +209,7 @@ void TestController::refusesAnswers()
 
 void TestController::breaksCommands()
 {
-    SimulatedController controller(ControllerState::builtIn());
+    SimulatedController controller(full());
     Faults faults(&controller);
     const auto outcomes = [&] {
         QByteArray text;

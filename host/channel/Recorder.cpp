@@ -1,5 +1,7 @@
 #include "Recorder.h"
 
+#include "FileWriting.h"
+
 #include <QFileInfo>
 
 QString Recorder::start(const QString& name)
@@ -60,9 +62,7 @@ QString Recorder::write(const QByteArray& line)
 {
     if (!isRecording())
         return {};
-    qint64 written = file.write(line);
-    if (written > 0 && written < line.size()) // the system says why it stopped when it is asked for the rest
-        written += qMax(qint64(0), file.write(line.mid(static_cast<int>(written))));
+    const qint64 written = writeWhole(&file, line);
     if (written == line.size()) {
         wholeSize += written;
         return {};

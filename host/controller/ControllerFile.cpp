@@ -1,6 +1,7 @@
 #include "ControllerFile.h"
 
 #include "ControllerText.h"
+#include "FileWriting.h"
 #include "RecordedTable.h"
 #include "Recording.h"
 #include "WireText.h"
@@ -73,9 +74,9 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
 QString saveController(const QString& file, const ControllerTable& table)
 {
     QSaveFile output(file);
-    // flush() finds a full disk; commit() alone was seen to succeed with an empty file.
+    // Without a buffer: commit() was seen to succeed with an empty file when the disk was full.
     const QByteArray text = written(table);
-    const bool isSaved = output.open(QIODevice::WriteOnly) && output.write(text) == text.size() && output.flush()
-                         && output.commit();
+    const bool isSaved = output.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+                         && writeWhole(&output, text) == text.size() && output.flush() && output.commit();
     return isSaved ? QString() : file + ": " + output.errorString();
 }

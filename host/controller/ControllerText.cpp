@@ -104,7 +104,8 @@ QString ControllerText::readAnswer(const QString& command, const QString& answer
     QVector<Line> lines;
     QString fault = expand({command, answer}, &lines);
     for (const Line& line : qAsConst(lines)) {
-        const AnswerRow row = {unescaped(line.command), unescaped(line.answer), line.answer == failure, number};
+        const bool isFailure = line.answer == failure;
+        const AnswerRow row = {unescaped(line.command), isFailure ? "" : unescaped(line.answer), isFailure, number};
         if (fault.isEmpty())
             fault = commandFault(row.command);
         if (fault.isEmpty() && row.command.startsWith("set ") && !line.answer.isEmpty() && !row.isFailure)

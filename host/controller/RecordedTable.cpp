@@ -5,24 +5,23 @@
 #include "Recording.h"
 
 #include <QFileInfo>
+#include <QSet>
 
-/** Adds the answer in \a line unless an earlier line has given it. */
+static constexpr char rawRead[] = "zorvan2 get ";
+
+/** Adds the first answer to a command. A write that succeeded adds nothing. */
 static void add(const RecordedLine& line, ControllerTable* table)
 {
-    const int blank = line.text.indexOf(' ');
-    const QByteArray command = line.text.mid(blank + 1);
-    AnswerRow row = {command, line.answer, !line.isAnswered};
-    const bool isSet = line.text.startsWith("set ") || command.startsWith("zorvan2 set ");
-    const QByteArray echo = command + ' ';
-    if (isSet && line.isAnswered)
+    const QByteArray command = line.text.mid(line.text.indexOf(' ') + 1);
+    const bool isSet = line.text.startsWith("set ");
+    if ((isSet || command.startsWith("zorvan2 set ")) && line.isAnswered)
         return;
-    if (isSet && line.text.startsWith("set "))
-        row.command = line.text;
-    else if (command.startsWith("zorvan2 get ") && line.answer.startsWith(echo))
-        row = {command.mid(12), line.answer.mid(echo.size())};
-    const AnswerRow* earlier = table->find(row.command);
+    AnswerRow row = {isSet ? line.text : command, line.answer, !line.isAnswered};
+    if (command.startsWith(rawRead) && line.answer.startsWith(command + ' '))
+        row = {command.mid(static_cast<int>(qstrlen(rawRead))), line.answer.mid(command.size() + 1)};
+    const AnswerRow* const earlier = table->find(row.command);
     if (earlier && (earlier->answer != row.answer || earlier->isFailure != row.isFailure))
-        row.command = line.text; // Another operation may be answered otherwise.
+        row.command = line.text; // Another operation was answered otherwise.
     if (!table->find(row.command))
         table->insert(row);
 }
@@ -38,9 +37,13 @@ QString readRecordedTable(const QString& file, ControllerTable* table)
         return problem;
     readConnection(lines.takeFirst().text, &table->identity);
     int unknownCommands = 0;
+    QSet<QByteArray> asked;
     for (const RecordedLine& line : qAsConst(lines)) {
         if (line.text.startsWith("connect "))
             break;
+        if (asked.contains(line.text))
+            continue;
+        asked.insert(line.text);
         if (commandFault(line.text).isEmpty())
             add(line, table);
         else
