@@ -1,6 +1,8 @@
 #include "DevelopmentHost.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QMainWindow>
 
 static BackendVersions versionsOf(const ControllerIdentity& controller)
 {
@@ -10,34 +12,45 @@ static BackendVersions versionsOf(const ControllerIdentity& controller)
 DevelopmentHost::DevelopmentHost(const HostSetup& setup)
     : setup(setup), simulated(setup.controller.table), recorded(setup.replay),
       faultLayer(isReplaying() ? static_cast<ControllerLink*>(&recorded) : &simulated), commandRecorder(&faultLayer),
-      commandChannel(&commandRecorder), backendVersions(versionsOf(setup.controller.table.identity)), mainWindow(this),
+      commandChannel(&commandRecorder), backendVersions(versionsOf(setup.controller.table.identity)),
       loader(setup.pluginFile.isEmpty() ? ModuleLoader::defaultFile() : setup.pluginFile)
 {
     faultLayer.failMatching(setup.failing);
     faultLayer.setLatency(setup.latency);
-    QObject::connect(&mainWindow, &MainWindow::measurementSwitched, &mainWindow,
-                     [this](bool isOn) { loader.setMeasurementRunning(isOn); });
     if (ModuleLoader::loadTranslation(&translator, setup.language, loader.fileName()))
         QCoreApplication::installTranslator(&translator);
+    connect(&recorded, &Replay::differed, this, &DevelopmentHost::noted);
+    connect(&commandRecorder, &Recorder::started, this, [this] {
+        emit noted("Recording into " + commandRecorder.fileName());
+        emit changed();
+    });
+    connect(&commandRecorder, &Recorder::ended, this, [this](const QString& problem) {
+        emit noted(problem.isEmpty() ? "The recording is complete" : problem);
+        emit changed();
+    });
 }
 
-bool DevelopmentHost::start()
+QString DevelopmentHost::start(QMainWindow* window)
 {
     Q_INIT_RESOURCE(host); // ":/lock.png", from which the module's dialog takes its lock icon
-    // The plug-in first: a program that cannot start must not begin a recording.
-    if (reloadModule())
-        error = openRecordings();
-    return placeModule();
+    mainWindow = window;
+    // The plug-in first: a program that cannot start must not start a recording.
+    QString problem = reloadModule();
+    if (problem.isEmpty())
+        problem = openRecordings();
+    if (problem.isEmpty())
+        placeModule();
+    return problem;
 }
 
-/** Opens the recordings and connects to the controller. Returns why it cannot, or an empty text. */
+/** Opens the recordings and connects to the controller. Returns an error message, or an empty string on success. */
 QString DevelopmentHost::openRecordings()
 {
     if (isReplaying()) {
         QString problem = recorded.open();
         if (!problem.isEmpty())
             return problem;
-        setup.controller = {tr("as recorded"), {}};
+        setup.controller = {"as recorded", {}};
         setup.controller.table.identity = recorded.recordedController();
     }
     QString problem = setup.record.isEmpty() ? QString() : commandRecorder.start(setup.record);
@@ -51,56 +64,46 @@ void DevelopmentHost::connectTo(const ControllerTable& table)
 {
     backendVersions = versionsOf(table.identity);
     simulated.setTable(table);
+    emit noted(QString("Connected to %1, protocol %2, model %3")
+                   .arg(setup.controller.name, table.identity.protocol.toString(), table.identity.model));
     commandRecorder.connected(table.identity);
+    emit changed();
 }
 
-bool DevelopmentHost::restart(const ControllerTable& table)
+QString DevelopmentHost::restart(const ControllerTable& table)
 {
-    if (reloadModule())
-        connectTo(table);
-    return placeModule();
+    QString problem = reloadModule();
+    if (!problem.isEmpty())
+        return problem;
+    connectTo(table);
+    placeModule();
+    return {};
 }
 
 QString DevelopmentHost::chooseController(const NamedController& chosen)
 {
-    if (!whyBusy().isEmpty())
-        return whyBusy();
     setup.controller = chosen;
-    return restart(chosen.table) ? QString() : error;
-}
-
-QString DevelopmentHost::startRecording(const QString& file)
-{
-    return whyBusy().isEmpty() ? commandRecorder.start(file) : whyBusy();
-}
-
-QString DevelopmentHost::stopRecording()
-{
-    if (!whyBusy().isEmpty())
-        return whyBusy();
-    commandRecorder.stop();
-    return {};
+    return restart(chosen.table);
 }
 
 QString DevelopmentHost::rewindReplay()
 {
-    if (!whyBusy().isEmpty())
-        return whyBusy();
     recorded.rewind();
-    return restart(simulated.table()) ? QString() : error;
+    return restart(simulated.table());
 }
 
 QString DevelopmentHost::changeController(const ControllerTable& table)
 {
     if (table.identity == simulated.table().identity) {
         simulated.setTable(table);
+        emit changed(); // the description
         return {};
     }
     if (!whyBusy().isEmpty())
-        return tr("A new protocol or model is a new connection. ") + whyBusy();
+        return "A new protocol or model is a new connection. " + whyBusy();
     const VersionInfo direct(0, 13, -1);
     if ((table.identity.protocol < direct) != (backendVersions.protocol() < direct))
-        return restart(table) ? QString() : error;
+        return restart(table);
     connectTo(table);
     return {};
 }
@@ -108,44 +111,42 @@ QString DevelopmentHost::changeController(const ControllerTable& table)
 QString DevelopmentHost::whyBusy() const
 {
     if (commandChannel.isBusy())
-        return tr("A command is under way; try again when it is answered.");
-    return QApplication::activeModalWidget() ? tr("Close the dialog first.") : QString();
+        return "A command is under way. Try again when it is answered.";
+    return QApplication::activeModalWidget() ? "Close the dialog first." : QString();
 }
 
-/** Loads the module, anew if there is one; it has no place yet. */
-bool DevelopmentHost::reloadModule()
+/** Unloads any earlier module and loads it again. Its menu entry is not placed yet. Returns like start(). */
+QString DevelopmentHost::reloadModule()
 {
     loader.unload();
-    error = loader.load() ? QString() : loader.errorString();
-    return error.isEmpty();
+    return loader.load() ? QString() : loader.errorString();
 }
 
-/** Hands the host's values over and places the entry, unless there is an error already. */
-bool DevelopmentHost::placeModule()
+/** Hands the host's values to the module and places its menu entry. */
+void DevelopmentHost::placeModule()
 {
-    if (!error.isEmpty())
-        return false;
-    loader.setParameters(&commandChannel, &mainWindow, &backendVersions, false);
-    loader.placeElements(mainWindow.menuBar());
-    loader.setMeasurementRunning(mainWindow.isMeasurementRunning());
+    loader.setParameters(&commandChannel, mainWindow, &backendVersions, false);
+    loader.placeElements(mainWindow->menuBar());
     entry().menu_entry->setShortcutContext(Qt::ApplicationShortcut); // in the workbench as well
-    mainWindow.describe();
-    return true;
 }
 
-QString DevelopmentHost::identity() const
+QString DevelopmentHost::description() const
 {
-    return QString("Development Host %1, %2, controller %3").arg(HOST_VERSION, moduleText(), controllerText());
-}
-
-QString DevelopmentHost::moduleText() const
-{
+    const ControllerTable& table = simulated.table();
     const ModuleInterface* module = loader.module();
-    return module ? module->get_module_name() + ' ' + module->get_module_version() : tr("no module");
+    QStringList lines = {
+        setup.controller.name + (table.description.isEmpty() ? QString() : ": " + table.description),
+        "Protocol " + table.identity.protocol.toString() + ", model " + table.identity.model,
+        module ? module->get_module_name() + ' ' + module->get_module_version() : "No module",
+    };
+    if (commandRecorder.isRecording())
+        lines.append("Recording into " + QFileInfo(commandRecorder.fileName()).fileName());
+    if (isReplaying())
+        lines.append("Replaying " + QFileInfo(recorded.fileName()).fileName());
+    return lines.join('\n');
 }
 
-QString DevelopmentHost::controllerText() const
+QString DevelopmentHost::title() const
 {
-    const QString description = simulated.table().description;
-    return description.isEmpty() ? controllerName() : controllerName() + ": " + description;
+    return QString("%1: %2").arg(QCoreApplication::applicationPid()).arg(setup.controller.name);
 }

@@ -4,91 +4,90 @@
 #include "ControllerChannel.h"
 #include "Faults.h"
 #include "HostSetup.h"
-#include "MainWindow.h"
 #include "ModuleLoader.h"
 #include "Recorder.h"
 #include "Replay.h"
 #include "SimulatedController.h"
 
-#include <QCoreApplication>
 #include <QDialog>
 #include <QTranslator>
 
+class QMainWindow;
+
 /**
- * The host: a controller, the main window, and the module in its menu. Commands go from the channel through recorder
- * and faults to the simulated controller, or to the recording that replaces it. Needs a QApplication.
+ * The host: a controller, and a module connected to it. Commands go from the channel through recorder and faults to the
+ * simulated controller, or to the recording that replaces it. Needs a QApplication.
  */
-class DevelopmentHost
+class DevelopmentHost : public QObject
 {
-    Q_DECLARE_TR_FUNCTIONS(DevelopmentHost)
+    Q_OBJECT
 
 public:
     explicit DevelopmentHost(const HostSetup& setup);
 
-    /** Opens recordings, loads the module and places its entry. False when one fails; errorString() says why. */
-    bool start();
-    QString errorString() const { return error; }
-
-    /** Ends the module, connects to a controller that answers as \a table says and starts the module again. False like start(). */
-    bool restart(const ControllerTable& table);
-
-    // What the menus do. Each returns why it cannot, or an empty text. While the dialog is open or opening, none can.
+    // These functions return an error message, or an empty string on success. While the host is busy, only
+    // changeController() may be called.
+    /**
+     * Opens recordings, loads the module, and places its entry in the menus of \a window, which becomes the parent of
+     * the module's dialog. Before the window is destroyed, call endModule().
+     */
+    QString start(QMainWindow* window);
+    /** Ends the module, connects to a controller that answers as \a table says and starts the module again. */
+    QString restart(const ControllerTable& table);
     /** Restarts with the controller \a chosen, to which resetController() goes back from then on. */
     QString chooseController(const NamedController& chosen);
     QString resetController() { return chooseController(setup.controller); }
-    QString startRecording(const QString& file);
-    QString stopRecording();
     /** Answers from the beginning of the recording again, and restarts the module. Only while replaying. */
     QString rewindReplay();
-
     /**
      * Lets the controller answer as \a table says from now on. Another protocol or model is a new connection, for which
-     * the dialog must be closed. If the protocol crosses 0.13, the module is loaded again, because a dialog that has met
-     * a legacy controller keeps labels hidden. Returns an error message, or an empty string on success.
+     * the dialog must be closed. If the protocol crosses 0.13, the module is loaded again, because a dialog that has
+     * met a legacy controller keeps labels hidden.
      */
     QString changeController(const ControllerTable& table);
 
-    /** A dialog is open, or a command is under way: the module must neither end nor change hands. Else empty. */
+    void endModule() { loader.unload(); }
+
+    /** Returns why the module cannot be ended or reconfigured now, or an empty string. */
     QString whyBusy() const;
 
-    /** The name of the controller as it was chosen, or "as recorded". */
-    QString controllerName() const { return setup.controller.name; }
-    /** The same with its description: "full: Protocol 1.23 with everything". */
-    QString controllerText() const;
-    /** Name and version of the module, or "no module". */
-    QString moduleText() const;
-    QString moduleFile() const { return loader.fileName(); }
-    /** Names host, module and controller in one line: "Development Host 1.2.7, ..., controller built-in". */
-    QString identity() const;
-    /** The module's menu entry. Only after start(). */
+    /** Describes controller, module and recordings, one line each. */
+    QString description() const;
+    /** Names process and controller, for titles. */
+    QString title() const;
+
+    /** Returns the module's menu entry. Only after start(). */
     const GuiElement& entry() const { return *loader.module()->get_gui_elements().constFirst(); }
-    /** The module's dialog. Only after start(). */
+    /** Returns the module's dialog. Only after start(). */
     QDialog* dialog() const { return qobject_cast<QDialog*>(entry().content); }
 
-    MainWindow& window() { return mainWindow; }
     Faults& faults() { return faultLayer; }
     const ControllerChannel& channel() const { return commandChannel; }
-    const BackendVersions& versions() const { return backendVersions; }
     const SimulatedController& controller() const { return simulated; }
     const Replay& replay() const { return recorded; }
-    const Recorder& recorder() const { return commandRecorder; }
+    Recorder& recorder() { return commandRecorder; }
     bool isReplaying() const { return !setup.replay.isEmpty(); }
+
+signals:
+    /** description() and title() have changed. */
+    void changed();
+    /** The log takes \a text as a note. */
+    void noted(const QString& text);
 
 private:
     QString openRecordings();
     void connectTo(const ControllerTable& table);
-    bool reloadModule();
-    bool placeModule();
+    QString reloadModule();
+    void placeModule();
 
     HostSetup setup; // with the controller as it was chosen
-    QString error;
     SimulatedController simulated;
     Replay recorded;
     Faults faultLayer;
     Recorder commandRecorder;
     ControllerChannel commandChannel;
     BackendVersions backendVersions;
-    MainWindow mainWindow;
+    QMainWindow* mainWindow = nullptr;
     QTranslator translator;
-    ModuleLoader loader; // last, so that the module ends before the objects it uses
+    ModuleLoader loader;
 };

@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
+static constexpr int nameWidth = 16; // characters in a list of controllers
+
 static bool printed(const QString& text)
 {
     print(text);
@@ -31,10 +33,34 @@ HostOptions::HostOptions(const QString& description, ReplayedController replayed
     parser.addOption({"replay", "Answers from the recording <file> instead of a simulated controller.", "file"});
 }
 
-bool HostOptions::parse(int argc, char* argv[])
+/**
+ * Returns the program's name and all options with two dashes or one letter, with their values. Leaves the name and all
+ * other options, Qt's own such as "-style", in \a argv.
+ */
+static QStringList takeArguments(int& argc, char** argv)
 {
-    const QCoreApplication application(argc, argv);
-    if (!parser.parse(QCoreApplication::arguments()))
+    QStringList taken = {QString::fromLocal8Bit(argv[0])};
+    int kept = 1;
+    bool isQts = false;
+    for (int i = 1; i < argc; ++i) {
+        const QString text = QString::fromLocal8Bit(argv[i]);
+        if (text.startsWith('-'))
+            isQts = text.size() > 2 && text.at(1) != '-';
+        if (isQts)
+            argv[kept++] = argv[i];
+        else
+            taken.append(text);
+    }
+    argc = kept;
+    return taken;
+}
+
+bool HostOptions::parse(int& argc, char** argv)
+{
+    const QStringList arguments = takeArguments(argc, argv);
+    int programNameOnly = 1;
+    const QCoreApplication application(programNameOnly, argv);
+    if (!parser.parse(arguments))
         return refuse(parser.errorText() + " See --help.");
     if (!parser.positionalArguments().isEmpty())
         return refuse("Unexpected argument '" + parser.positionalArguments().constFirst() + "'. See --help.");
@@ -55,16 +81,13 @@ bool HostOptions::listControllers()
 {
     QVector<NamedController> controllers;
     const QString problem = readNamedControllers(&controllers);
-    int width = 0;
-    for (const NamedController& listed : qAsConst(controllers))
-        width = qMax(width, listed.name.size());
     QStringList lines;
     for (const NamedController& listed : qAsConst(controllers))
-        lines.append(listed.name.leftJustified(width) + "  " + listed.table.description);
+        lines.append(listed.name.leftJustified(nameWidth) + listed.table.description);
     return problem.isEmpty() ? printed(lines.join('\n')) : refuse(problem);
 }
 
-/** The user's first language may lack a translation; one that is asked for may not, unless it is English. */
+/** Requires a translation for a language that the user asks for, but not for the one of the desktop or for English. */
 bool HostOptions::readLanguage()
 {
     const QString wanted = parser.value("language");
@@ -72,7 +95,7 @@ bool HostOptions::readLanguage()
     QTranslator translator;
     return !parser.isSet("language") || host.language.language() == QLocale::English
            || ModuleLoader::loadTranslation(&translator, host.language, host.pluginFile)
-           || refuse(QString("--language %1: no " MODULE_NAME "_%1.qm beside the plug-in").arg(wanted));
+           || refuse(QString("--language %1: no " MODULE_NAME "_%1.qm next to the plug-in").arg(wanted));
 }
 
 bool HostOptions::readController()
@@ -100,32 +123,25 @@ bool HostOptions::readFaults()
     return isTaken || refuse("--latency " + parser.value("latency") + ": milliseconds from 0 to 5000 are expected");
 }
 
+/** An empty value is a mistake, such as a variable of a script that is not set. */
 bool HostOptions::checkTexts()
 {
-    const QMap<QString, QString> expected = {
-        {"controller", "a name of --list, or a file"},
-        {"language", "a language such as de"},
-        {"plugin", "a file"},
-        {"record", "a file"},
-        {"replay", "a file"},
-    };
-    for (auto option = expected.begin(); option != expected.end(); ++option) {
-        if (parser.isSet(option.key()) && parser.value(option.key()).isEmpty())
-            return refuse("--" + option.key() + ": " + option.value() + " is expected");
+    for (const char* name : {"controller", "language", "plugin", "record", "replay"}) {
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            return refuse(QString("--%1: a value is expected").arg(name));
     }
     return true;
 }
 
 bool HostOptions::checkReplay()
 {
-    if (!parser.isSet("replay"))
-        return true;
-    if (parser.isSet("fail"))
-        return refuse("--fail: not with --replay, which fails the commands that failed when they were recorded");
-    if (parser.isSet("protocol"))
-        return refuse("--protocol: not with --replay, which takes the protocol from the recording");
-    if (parser.isSet("controller") && replayed == Ignored)
-        return refuse("--controller: not with --replay, which answers like the recorded controller");
+    QStringList excluded = {"fail", "protocol"};
+    if (replayed == Ignored)
+        excluded.append("controller");
+    for (const QString& name : qAsConst(excluded)) {
+        if (parser.isSet("replay") && parser.isSet(name))
+            return refuse("--" + name + ": not with --replay, which takes it from the recording");
+    }
     return true;
 }
 

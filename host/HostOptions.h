@@ -8,7 +8,7 @@
 class HostOptions
 {
 public:
-    /** What a program does with --controller beside --replay. */
+    /** What a program does with --controller together with --replay. */
     enum ReplayedController { Ignored, Compared };
 
     explicit HostOptions(const QString& description, ReplayedController replayed = Ignored);
@@ -17,16 +17,17 @@ public:
     void addOption(const QCommandLineOption& option) { parser.addOption(option); }
 
     /**
-     * Reads the program's arguments, before there is a QApplication: QApplication takes --plugin for itself and needs a
-     * display. Returns false when the program must end with status(): 0 after --help, --version or --list, which it
-     * has printed then, and 2 after a mistake, of which it has told.
+     * Reads the program's arguments, before there is a QApplication, which needs a display. Leaves the program's name
+     * and the options with one dash for QApplication in \a argv. Returns false if the program must end with status():
+     * 0 after --help, --version or --list, 2 after a mistake. All four are printed.
      */
-    bool parse(int argc, char* argv[]);
+    bool parse(int& argc, char** argv);
     int status() const { return itsStatus; }
 
     QString value(const QString& option) const { return parser.value(option); }
 
-    /** What the arguments ask for; by default the built-in controller and the plug-in beside the program. */
+    /** Returns what the arguments ask for. The default is the built-in controller and the plug-in next to the program.
+     */
     const HostSetup& setup() const { return host; }
 
 private:

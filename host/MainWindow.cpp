@@ -4,120 +4,146 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileInfo>
-#include <QFormLayout>
 #include <QLabel>
-#include <QStatusBar>
-#include <QStyle>
+#include <QMenuBar>
+#include <QMessageBox>
 
-static constexpr int columns = 45; // of text in a row, in average characters
+static constexpr int columns = 60; // of text, in average characters
+static constexpr int margin = 12;  // pixels
+static constexpr char fileFilter[] = "Text files (*.txt);;All files (*)";
 
-MainWindow::MainWindow(DevelopmentHost* host)
-    : host(host), notice(new QLabel), step(new QLabel), recordingState(new QLabel),
-      measurementState(new QLabel(tr("Measurement running")))
+MainWindow::MainWindow(DevelopmentHost* host) : host(host)
 {
-    setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon));
     // A modal dialog blocks only windows of the same group: the workbench, which has no parent, stays usable.
     setAttribute(Qt::WA_GroupLeader);
-    createRows();
+    createDescription();
     createHostMenu();
     createRecordingMenu();
     if (!host->isReplaying())
         createControllerMenu();
-    createHelpMenu();
-    statusBar()->addWidget(step);
-    statusBar()->addPermanentWidget(measurementState);
-    statusBar()->addPermanentWidget(recordingState);
-    measurementState->hide();
-    followHost();
 }
 
-void MainWindow::createRows()
+MainWindow::~MainWindow()
 {
-    auto* layout = new QFormLayout;
-    layout->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
-    for (const QString& name : {tr("Controller"), tr("Protocol"), tr("Module"), tr("Recording")}) {
-        auto* row = new QLabel;
-        row->setTextFormat(Qt::PlainText);
-        row->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        row->setWordWrap(true);
-        row->setMinimumWidth(columns * fontMetrics().averageCharWidth());
-        layout->addRow(name + ':', row);
-        rows.append(row);
-    }
-    notice->setTextFormat(Qt::PlainText);
-    notice->setWordWrap(true);
-    layout->addRow(notice);
-    auto* center = new QWidget;
-    center->setLayout(layout);
-    center->setWhatsThis(
-        tr("What this host is: the controller it simulates, the module it has loaded, and the recording "
-           "that it writes or answers from"));
-    setCentralWidget(center);
+    host->endModule();
 }
 
-/** Describes the host again whenever the controller or a recording has changed. */
-void MainWindow::followHost()
+void MainWindow::createDescription()
 {
-    describing.setSingleShot(true);
-    connect(&describing, &QTimer::timeout, this, &MainWindow::describe);
-    const auto describeSoon = [this] { describing.start(); };
-    connect(&host->controller(), &SimulatedController::changed, this, describeSoon);
-    connect(&host->replay(), &Replay::moved, this, describeSoon);
-    connect(&host->recorder(), &Recorder::started, this, describeSoon);
-    connect(&host->recorder(), &Recorder::ended, this, describeSoon);
-    connect(&host->recorder(), &Recorder::ended, this, &MainWindow::say);
-    connect(&host->channel(), &ControllerChannel::executed, this, [this](const CommandRecord& record) {
-        if (traitsOf(record.text()).beginsOpening)
-            say({});
+    auto* description = new QLabel;
+    description->setTextFormat(Qt::PlainText);
+    description->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    description->setWordWrap(true);
+    description->setMargin(margin);
+    description->setMinimumWidth(columns * fontMetrics().averageCharWidth());
+    setCentralWidget(description);
+    connect(host, &DevelopmentHost::changed, this, [this, description] {
+        description->setText(host->description());
+        setWindowTitle(host->title() + " - Development Host");
     });
 }
 
-void MainWindow::describe()
+/** Adds an entry to \a menu that calls \a request, unless the host is busy. A request returns like refuse() takes it.
+ */
+QAction* MainWindow::add(QMenu* menu, const QString& text, const Request& request)
 {
-    if (!host->errorString().isEmpty())
+    return menu->addAction(text, this, [this, request] {
+        const QString reason = host->whyBusy();
+        refuse(reason.isEmpty() ? request() : reason);
+    });
+}
+
+void MainWindow::createHostMenu()
+{
+    QMenu* menu = menuBar()->addMenu("Ho&st");
+    menu->addAction("&Workbench", this, &MainWindow::workbenchWanted, {"Ctrl+B"});
+    menu->addAction("&Quit", this, &QWidget::close, {"Ctrl+Q"});
+    // in the workbench as well
+    for (QAction* action : menu->actions())
+        action->setShortcutContext(Qt::ApplicationShortcut);
+}
+
+void MainWindow::createRecordingMenu()
+{
+    QMenu* menu = menuBar()->addMenu("&Recording");
+    add(menu, "&Record...", [this] {
+        auto* dialog = new QFileDialog(this, "Record every command", "session.txt", fileFilter);
+        dialog->setOption(QFileDialog::DontConfirmOverwrite); // A recording never replaces a file.
+        return askForFile(dialog, QFileDialog::AcceptSave,
+                          [this](const QString& file) { return host->recorder().start(file); });
+    });
+    QAction* stop = add(menu, "&Stop recording", [this] {
+        host->recorder().stop();
+        return QString();
+    });
+    connect(menu, &QMenu::aboutToShow, stop, [this, stop] { stop->setEnabled(host->recorder().isRecording()); });
+    if (host->isReplaying())
+        add(menu, "Re&wind the replay", [this] { return host->rewindReplay(); });
+}
+
+void MainWindow::createControllerMenu()
+{
+    QMenu* menu = menuBar()->addMenu("&Controller");
+    add(menu, "&Reset", [this] { return host->resetController(); });
+    add(menu, "&Open...", [this] {
+        auto* dialog = new QFileDialog(this, "Open a controller or a recording", {}, fileFilter);
+        return askForFile(dialog, QFileDialog::AcceptOpen, [this](const QString& file) {
+            NamedController controller;
+            const QString problem = readController(file, &controller);
+            return problem.isEmpty() ? host->chooseController(controller) : problem;
+        });
+    });
+    add(menu, "&Save as...", [this] {
+        auto* dialog = new QFileDialog(this, "Save the controller", "controller.txt", fileFilter);
+        return askForFile(dialog, QFileDialog::AcceptSave,
+                          [this](const QString& file) { return saveController(file, host->controller().table()); });
+    });
+    menu->addSeparator();
+    menu->setToolTipsVisible(true);
+    QVector<NamedController> controllers;
+    const QString problem = readNamedControllers(&controllers);
+    if (!problem.isEmpty())
+        menu->addAction(problem)->setEnabled(false);
+    for (const NamedController& named : qAsConst(controllers))
+        add(menu, named.name, [this, named] {
+            return host->chooseController(named);
+        })->setToolTip(named.table.description);
+}
+
+/** Opens \a dialog and calls \a use with the file that the user names. There is nothing to refuse yet. */
+QString MainWindow::askForFile(QFileDialog* dialog, QFileDialog::AcceptMode mode, const Use& use)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(mode);
+    if (mode == QFileDialog::AcceptSave)
+        dialog->setDefaultSuffix("txt");
+    // Queued: a file dialog may still be open when it emits the signal.
+    connect(
+        dialog, &QFileDialog::fileSelected, this, [this, use](const QString& file) { refuse(use(file)); },
+        Qt::QueuedConnection);
+    dialog->open();
+    return {};
+}
+
+/** Shows \a problem, unless it is empty. While the module's dialog is open it becomes a note, because a box would
+ * disturb. */
+void MainWindow::refuse(const QString& problem)
+{
+    if (problem.isEmpty())
         return;
-    QStringList recordings;
-    if (host->recorder().isRecording())
-        recordings.append(tr("recording %1").arg(QFileInfo(host->recorder().fileName()).fileName()));
-    if (host->isReplaying())
-        recordings.append(tr("replaying %1").arg(QFileInfo(host->replay().fileName()).fileName()));
-    recordingState->setText(recordings.join(", "));
-    const QString protocol = host->versions().protocol().toString();
-    const QStringList brief = recordings
-                              + QStringList{host->controllerName(), tr("protocol %1").arg(protocol),
-                                            tr("process %1").arg(QCoreApplication::applicationPid())};
-    setWindowTitle(tr("%1 - Development Host").arg(brief.join(", ")));
-    if (host->isReplaying())
-        recordings.append(host->replay().progress());
-    const QStringList texts = {host->controllerText(), protocol + ", " + host->versions().hubModel(),
-                               host->moduleText() + ", " + host->moduleFile(),
-                               recordings.isEmpty() ? tr("none") : recordings.join(", ")};
-    for (int i = 0; i < rows.size(); ++i)
-        rows.at(i)->setText(texts.at(i));
-    growToFit();
-    emit described(brief.join(", "));
-}
-
-void MainWindow::say(const QString& text)
-{
-    notice->setText(text);
-    notice->setVisible(!text.isEmpty());
-    growToFit();
-}
-
-/** The window's layout does not ask for the height of texts that are wrapped. */
-void MainWindow::growToFit()
-{
-    const QWidget* center = centralWidget();
-    const int missing = center->layout()->totalHeightForWidth(center->width()) - center->height();
-    if (isVisible() && missing > 0)
-        resize(width(), height() + missing);
+    if (!host->whyBusy().isEmpty()) {
+        emit host->noted(problem);
+        return;
+    }
+    auto* box = new QMessageBox(QMessageBox::Warning, "Development Host", problem, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->open();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    say(host->whyBusy());
+    refuse(host->whyBusy());
     event->setAccepted(host->whyBusy().isEmpty());
     if (event->isAccepted())
         QApplication::quit();

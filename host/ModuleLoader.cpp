@@ -10,33 +10,17 @@
 #include <QMenuBar>
 #include <QTranslator>
 
-#include <algorithm>
-
 namespace {
 
-const char* const orderProperty = "orderNumber";
-
-/** Inserts \a action into a menu or a menu bar, before those with a larger order number. */
-void insert(QWidget* menu, QAction* action, int order)
-{
-    action->setProperty(orderProperty, order);
-    const QList<QAction*> actions = menu->actions();
-    const auto isBehind = [order](const QAction* other) { return other->property(orderProperty).toInt() > order; };
-    const auto next = std::find_if(actions.begin(), actions.end(), isBehind);
-    menu->insertAction(next == actions.end() ? nullptr : *next, action);
-}
-
-/** The menu \a title of \a menuBar, created at its place in the bar if it does not exist. */
-QMenu* menuFor(QMenuBar* menuBar, const QString& title, int order)
+/** Returns the menu \a title of \a menuBar, which is created if it does not exist. */
+QMenu* menuOf(QMenuBar* menuBar, const QString& title)
 {
     const QList<QAction*> actions = menuBar->actions();
     for (const QAction* action : actions) {
         if (action->menu() && action->text() == title)
             return action->menu();
     }
-    auto* menu = new QMenu(title, menuBar);
-    insert(menuBar, menu->menuAction(), order);
-    return menu;
+    return menuBar->addMenu(title);
 }
 
 } // namespace
@@ -64,7 +48,7 @@ bool ModuleLoader::load()
         return refuse(expectedPlugin, "no such file");
     const QString identifier = loader.metaData().value("IID").toString();
     if (identifier.isEmpty())
-        return refuse(expectedPlugin, "no Qt plug-in");
+        return refuse(expectedPlugin, "not a Qt plug-in");
     if (identifier != MODULE_IDENTIFIER)
         return refuse(expectedPlugin, '"' + identifier + '"');
     QObject* instance = loader.instance();
@@ -99,17 +83,8 @@ void ModuleLoader::setParameters(IOManager* commandManager, QWidget* moduleParen
 void ModuleLoader::placeElements(QMenuBar* menuBar)
 {
     const QList<_GuiElement*> elements = interface->get_gui_elements();
-    for (const GuiElement* element : elements) {
-        QMenu* menu = menuFor(menuBar, element->menu_name, element->menu_order_number);
-        insert(menu, element->menu_entry, element->menu_entry_order_number);
-    }
-}
-
-void ModuleLoader::setMeasurementRunning(bool isRunning)
-{
-    const QList<_GuiElement*> elements = interface ? interface->get_gui_elements() : QList<_GuiElement*>();
     for (const GuiElement* element : elements)
-        element->menu_entry->setEnabled(!isRunning || element->action_active_during_measurement != 0);
+        menuOf(menuBar, element->menu_name)->addAction(element->menu_entry);
 }
 
 void ModuleLoader::unload()

@@ -45,11 +45,9 @@ public:
     /** Hands the host's four values over. */
     void setParameters(IOManager* commandManager, QWidget* moduleParent, BackendVersions* versions, bool observerMode);
 
-    /** Places the module's menu entries into \a menuBar by their order numbers. */
+    /** Appends the module's menu entries to their menus in \a menuBar. The order numbers are for hosts of many modules.
+     */
     void placeElements(QMenuBar* menuBar);
-
-    /** Disables the menu entries that must not be used while a measurement is running, or enables them again. */
-    void setMeasurementRunning(bool isRunning);
 
     /** Ends the module, deletes it and unmaps the library. */
     void unload();

@@ -1,35 +1,15 @@
 #include "Console.h"
 #include "DevelopmentHost.h"
 #include "HostOptions.h"
+#include "MainWindow.h"
 #include "Workbench.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <QStyle>
-
-static constexpr int gap = 12;             // pixels between windows, with room for their frames
-static constexpr double dialogGrows = 1.2; // it is wider once it is filled
-
-/**
- * Places the main window left, where the dialog opens over its middle, and the workbench beside both. \a bar is the
- * height of a title bar.
- */
-static void placeWindows(QWidget& main, const QSize& dialog, QWidget& workbench, int bar)
-{
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry().adjusted(gap, bar, -gap, -gap);
-    const QSize size = main.sizeHint();
-    const int column = qMax(size.width(), qRound(dialog.width() * dialogGrows));
-    main.setGeometry(
-        QRect(QPoint(), size)
-            .translated(screen.left() + (column - size.width()) / 2, screen.center().y() - size.height() / 2));
-    const int left = column + gap;
-    const QSize rest(screen.width() - left, screen.height());
-    workbench.setGeometry(QRect(screen.topLeft() + QPoint(left, 0), workbench.size().boundedTo(rest)));
-}
 
 int main(int argc, char* argv[])
 {
-    HostOptions options("A window with the synccard module's menu entry, in front of a simulated controller.");
+    HostOptions options("A window with the synccard module's menu entry, connected to a simulated controller.");
     if (!options.parse(argc, argv))
         return options.status();
 
@@ -39,20 +19,23 @@ int main(int argc, char* argv[])
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 #endif
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    int programNameOnly = 1;
-    const QApplication application(programNameOnly, argv);
+    const QApplication application(argc, argv);
+    if (argc > 1)
+        return fail(QString("Unknown option '%1'. See --help.").arg(QString::fromLocal8Bit(argv[1])));
+    QApplication::setWindowIcon(QApplication::style()->standardIcon(QStyle::SP_ComputerIcon));
     DevelopmentHost host(options.setup());
+    MainWindow window(&host);
     Workbench workbench(&host);
+    QObject::connect(&window, &MainWindow::workbenchWanted, &workbench, &Workbench::bringToFront);
     QObject::connect(&host.replay(), &Replay::differed, &fail);
-    if (!host.start())
-        return fail(host.errorString());
-    QObject::connect(&host.recorder(), &Recorder::ended, [](const QString& problem) {
-        if (!problem.isEmpty())
-            fail(problem);
+    QObject::connect(&host.recorder(), &Recorder::ended, [](const QString& reason) {
+        if (!reason.isEmpty())
+            fail(reason);
     });
-    placeWindows(host.window(), host.dialog()->sizeHint(), workbench,
-                 QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    const QString problem = host.start(&window);
+    if (!problem.isEmpty())
+        return fail(problem);
     workbench.show();
-    host.window().show();
+    window.show();
     return QApplication::exec();
 }

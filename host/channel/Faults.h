@@ -2,20 +2,17 @@
 
 #include "ControllerLink.h"
 
-#include <QObject>
 #include <QRegularExpression>
 
 /** Makes chosen commands fail without reaching the link below, or take longer, to see how a module copes. */
-class Faults : public QObject, public ControllerLink
+class Faults : public ControllerLink
 {
-    Q_OBJECT
-
 public:
     static constexpr int maximumLatency = 5000; // milliseconds
 
     explicit Faults(ControllerLink* below) : below(below) {}
 
-    /** Fails the \a n-th command from now, 1 being the next; 0 fails none. */
+    /** Fails the \a n-th command from now, 1 being the next; 0 fails none. Polls do not count. */
     void failNth(int n) { untilFailure = n; }
     int commandsToFailure() const { return untilFailure; }
     /** Fails every command in which \a expression is found; an empty one fails none. */
@@ -24,18 +21,14 @@ public:
     /** Lets each command take \a milliseconds longer, 0 to maximumLatency. */
     void setLatency(int milliseconds) { delay = qBound(0, milliseconds, maximumLatency); }
     int latency() const { return delay; }
-    /** Whether it waits in an event loop, as many real channels do: input and timers arrive then. Else it sleeps. */
+    /** Waits in an event loop, as many real channels do, so that input and timers arrive, or sleeps. */
     void waitInEventLoop(bool isOn) { hasEventLoop = isOn; }
 
     void connected(const ControllerIdentity& controller) override { below->connected(controller); }
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
-signals:
-    /** A command other than a poll begins to wait, or has waited. */
-    void waiting(bool isBegin);
-
 private:
-    void wait(bool isPoll);
+    void wait() const;
 
     ControllerLink* below;
     QRegularExpression pattern;

@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QObject>
 
-/** Writes each command with its answer into a recording, a line each. docs/workbench.md describes the format. */
+#include <memory>
+
+/** Writes each command with its answer into a recording, one per line. docs/workbench.md describes the format. */
 class Recorder : public QObject, public ControllerLink
 {
     Q_OBJECT
@@ -15,29 +17,31 @@ public:
     explicit Recorder(ControllerLink* below) : below(below) {}
 
     /**
-     * Begins the recording \a name with the present connection, if there is one. Only a device may exist already.
-     * Returns why the file cannot be written, or an empty text.
+     * Starts the recording \a name in place of the present one. Only a device may exist already. Returns an error
+     * message, and the present recording goes on, or an empty string on success.
      */
     QString start(const QString& name);
     void stop();
-    bool isRecording() const { return file.isOpen(); }
-    QString fileName() const { return file.fileName(); }
+    bool isRecording() const { return file != nullptr; }
+    /** Only while recording. */
+    QString fileName() const { return file->fileName(); }
 
+    /** The connection is recorded with its first command, so that no connection without commands is. */
     void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
 signals:
     void started();
-    /** The recording has ended; \a problem says why it had to, and is empty after stop(). */
+    /** The recording has ended. \a problem is the reason, or empty after stop(). */
     void ended(const QString& problem);
 
 private:
-    QString write(const RecordedLine& line);
-    QString write(const QByteArray& line);
+    void write(const RecordedLine& line);
 
     ControllerLink* below;
-    QFile file;
-    qint64 wholeSize = 0;  // bytes in whole lines
-    QByteArray connection; // the text of the present one
+    std::unique_ptr<QFile> file; // null while there is no recording
+    qint64 wholeSize = 0;        // bytes in whole lines
+    QByteArray connection;       // the text of the present one
+    bool isConnectionDue = false;
     QElapsedTimer time;
 };

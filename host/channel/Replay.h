@@ -23,27 +23,19 @@ public:
     /** The controller of the first connection. Only after open(). */
     ControllerIdentity recordedController() const;
 
-    /** The first command that differed, with its line, what was expected and what came. */
-    QString problem() const { return firstProblem; }
     QString fileName() const { return file; }
 
     /** Whether every command of the recording has been asked. */
     bool isAtEnd() const;
-    /** "42 of 214, next: get synccard source d01": how many lines are done, and the command that is due, if none
-     * differed.
-     */
-    QString progress() const;
-    /** Goes back to the beginning, also after a difference. */
+    /** Goes back to the beginning, even after a difference. */
     void rewind();
 
     void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
 signals:
-    /** A command differs from the recording; \a problem says how. */
+    /** A command differs from the recording. \a problem names the line, what was expected and what was found. */
     void differed(const QString& problem);
-    /** The recording has been asked, or rewound. */
-    void moved();
 
 private:
     int nextCommand() const;
@@ -51,7 +43,7 @@ private:
     RecordedLine take(const RecordedLine& asked);
 
     QString file;
-    QString firstProblem;
+    bool hasDiffered = false;
     QVector<RecordedLine> lines;
     QMap<QByteArray, RecordedLine> polls;
     int position = 0;

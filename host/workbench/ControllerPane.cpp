@@ -1,8 +1,10 @@
 #include "ControllerPane.h"
 
+#include "ControllerText.h"
 #include "DevelopmentHost.h"
+#include "FilteredTable.h"
+#include "WireText.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QFormLayout>
@@ -10,69 +12,109 @@
 #include <QLabel>
 #include <QLineEdit>
 
-static constexpr int commandColumnWidth = 380; // pixels
+enum Column { CommandColumn, AnswerColumn };
 
-ControllerPane::ControllerPane(DevelopmentHost* host) : model(host), table(new QTableView)
+/** Returns the command or the answer in a line of a controller file. */
+static QString cellOf(const QString& line, int column)
 {
-    filtered.setSourceModel(&model);
-    filtered.setFilterKeyColumn(-1);
-    filtered.setFilterCaseSensitivity(Qt::CaseInsensitive);
-    table->setModel(&filtered);
-    table->setObjectName("controller");
-    table->setAccessibleName("Answers of the simulated controller");
-    table->setSelectionBehavior(QTableView::SelectRows);
-    table->setTabKeyNavigation(false);
-    table->setEditTriggers(QTableView::NoEditTriggers);
-    table->setColumnWidth(ControllerModel::CommandColumn, commandColumnWidth);
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->verticalHeader()->hide();
-    // A double click or Return anywhere in a row edits its answer.
-    connect(table, &QTableView::activated, this,
-            [this](const QModelIndex& index) { table->edit(index.siblingAtColumn(ControllerModel::AnswerColumn)); });
-    addActions();
+    const int separator = line.indexOf('=');
+    return (column == CommandColumn ? line.left(separator) : line.mid(separator + 1)).trimmed();
+}
 
-    auto* filter = new QLineEdit;
-    connect(filter, &QLineEdit::textChanged, &filtered, &QSortFilterProxyModel::setFilterFixedString);
-    auto* message = new QLabel;
-    message->setTextFormat(Qt::PlainText);
-    message->setWordWrap(true);
-    connect(&model, &ControllerModel::edited, message, &QLabel::setText);
+/** Returns \a table as lines of a controller file, without its description. */
+static QStringList linesOf(const ControllerTable& table)
+{
+    QStringList lines = linesOf(written(table));
+    lines.removeFirst();
+    lines.removeAll(QString());
+    return lines;
+}
+
+ControllerPane::ControllerPane(DevelopmentHost* host)
+    : host(host), table(new FilteredTable(&rows, "Answers of the simulated controller")), problem(new QLabel)
+{
+    rows.setHorizontalHeaderLabels({"Command", "Answer"});
+    markFromNow();
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->addAction("&Paste", QKeySequence::Paste, [this] { change(QApplication::clipboard()->text()); });
+    table->addAction("&Delete", QKeySequence::Delete, [this] { removeRows(); });
+    problem->setTextFormat(Qt::PlainText);
+    problem->setWordWrap(true);
     auto* layout = new QFormLayout(this);
-    layout->addRow("Fi&lter", filter);
+    layout->addRow("Fi&lter", table->filter());
     layout->addRow(table);
-    layout->addRow(message);
+    layout->addRow(problem);
+    // A double click or Return anywhere in a row edits its answer.
+    connect(table, &QTableView::activated, table,
+            [this](const QModelIndex& index) { table->edit(index.siblingAtColumn(AnswerColumn)); });
+    connect(&rows, &QStandardItemModel::itemChanged, this, [this](QStandardItem* item) {
+        const QString line = item->data(FilteredTable::lineRole).toString();
+        const QString answer = item->text();
+        if (item->column() != AnswerColumn || answer == cellOf(line, AnswerColumn))
+            return;
+        item->setText(cellOf(line, AnswerColumn)); // until the change is accepted
+        change(cellOf(line, CommandColumn) + " = " + answer);
+    });
+    refreshing.setSingleShot(true);
+    connect(&refreshing, &QTimer::timeout, this, &ControllerPane::refresh);
+    connect(&host->controller(), &SimulatedController::changed, this, [this] { refreshing.start(); });
     connect(&host->channel(), &ControllerChannel::executed, this, [this](const CommandRecord& record) {
         if (traitsOf(record.text()).beginsOpening)
-            model.markFromNow();
+            markFromNow();
     });
 }
 
-void ControllerPane::addActions()
+/** Changes the controller by \a text, lines of a controller file. Either all lines are accepted or none. */
+void ControllerPane::change(const QString& text)
 {
-    const auto add = [this](const QString& text, QKeySequence::StandardKey key, auto slot) {
-        auto* action = new QAction(text, this);
-        action->setShortcut(key);
-        action->setShortcutContext(Qt::WidgetShortcut);
-        connect(action, &QAction::triggered, this, slot);
-        table->addAction(action);
-    };
-    add("&Copy", QKeySequence::Copy, [this] {
-        QStringList lines;
-        for (const int row : selectedRows())
-            lines.append(model.lineAt(row));
-        QApplication::clipboard()->setText(lines.join('\n'));
-    });
-    add("&Paste", QKeySequence::Paste, [this] { model.change(QApplication::clipboard()->text()); });
-    add("&Delete", QKeySequence::Delete, [this] { model.remove(selectedRows()); });
-    table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    ControllerTable changed = host->controller().table();
+    QString reason = changeTable(&changed, text);
+    if (reason.isEmpty())
+        reason = host->changeController(changed);
+    problem->setText(reason);
 }
 
-/** Returns the selected rows of the model, not of the filtered view. */
-QVector<int> ControllerPane::selectedRows() const
+/** Removes the selected rows from the controller, but not protocol and model. */
+void ControllerPane::removeRows()
 {
-    QVector<int> rows;
+    ControllerTable changed = host->controller().table();
     const QModelIndexList selected = table->selectionModel()->selectedRows();
-    for (const QModelIndex& index : selected)
-        rows.append(filtered.mapToSource(index).row());
-    return rows;
+    for (const QModelIndex& row : selected)
+        changed.remove(unescaped(cellOf(row.data(FilteredTable::lineRole).toString(), CommandColumn)));
+    problem->setText(host->changeController(changed));
+}
+
+void ControllerPane::markFromNow()
+{
+    const QStringList lines = linesOf(host->controller().table());
+    marked.clear();
+    for (const QString& line : lines)
+        marked.insert(line);
+    refresh();
+}
+
+void ControllerPane::refresh()
+{
+    const QStringList lines = linesOf(host->controller().table());
+    rows.setRowCount(lines.size());
+    for (int row = 0; row < lines.size(); ++row)
+        showLine(row, lines.at(row));
+}
+
+void ControllerPane::showLine(int row, const QString& line)
+{
+    const bool isChanged = !marked.contains(line);
+    const QStandardItem* const present = rows.item(row);
+    if (present && present->data(FilteredTable::lineRole) == line && present->font().bold() == isChanged)
+        return;
+    QFont font;
+    font.setBold(isChanged);
+    for (const int column : {CommandColumn, AnswerColumn}) {
+        auto* item = new QStandardItem(cellOf(line, column));
+        item->setToolTip(item->text());
+        item->setText(item->text() + (isChanged && column == CommandColumn ? " *" : ""));
+        item->setFont(font);
+        item->setData(line, FilteredTable::lineRole);
+        rows.setItem(row, column, item);
+    }
 }

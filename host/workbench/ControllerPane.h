@@ -1,13 +1,18 @@
 #pragma once
 
-#include "ControllerModel.h"
-
-#include <QSortFilterProxyModel>
-#include <QTableView>
+#include <QSet>
+#include <QStandardItemModel>
+#include <QTimer>
+#include <QWidget>
 
 class DevelopmentHost;
+class FilteredTable;
+class QLabel;
 
-/** Shows and edits the table of the host's simulated controller. Does not own the host. */
+/**
+ * Shows and edits the table of the host's simulated controller as a controller file writes it, from the protocol on.
+ * Rows that differ from when the dialog was last opened are bold and have a star. Does not own the host.
+ */
 class ControllerPane : public QWidget
 {
     Q_OBJECT
@@ -16,10 +21,16 @@ public:
     explicit ControllerPane(DevelopmentHost* host);
 
 private:
-    void addActions();
-    QVector<int> selectedRows() const;
+    void change(const QString& text);
+    void removeRows();
+    void markFromNow();
+    void refresh();
+    void showLine(int row, const QString& line);
 
-    ControllerModel model;
-    QSortFilterProxyModel filtered;
-    QTableView* table;
+    DevelopmentHost* host;
+    QStandardItemModel rows;
+    FilteredTable* table;
+    QLabel* problem; // of the last change
+    QSet<QString> marked;
+    QTimer refreshing; // refreshes once after a burst of commands
 };

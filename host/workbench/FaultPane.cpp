@@ -3,108 +3,85 @@
 #include "DevelopmentHost.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStyle>
-#include <QWheelEvent>
 
 static constexpr int largestCount = 1000;
 static constexpr int latencyStep = 100; // milliseconds
 
 namespace {
 
-/** A spin box that takes a typed number when it is whole, and that the wheel changes only while it has the focus. */
-class NumberBox : public QSpinBox
+QWidget* createCount(DevelopmentHost* host)
 {
-public:
-    explicit NumberBox(int maximum)
-    {
-        setMaximum(maximum);
-        setKeyboardTracking(false);
-        setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus
-    }
-
-protected:
-    void wheelEvent(QWheelEvent* event) override
-    {
-        if (hasFocus())
-            QSpinBox::wheelEvent(event);
-        else
-            event->ignore(); // What lies below may scroll.
-    }
-};
-
-} // namespace
-
-FaultPane::FaultPane(DevelopmentHost* host) : faults(host->faults())
-{
-    auto* layout = new QFormLayout(this);
-    layout->setContentsMargins({});
-    layout->addRow(tr("Fail the &n-th command from now"), createCount(host));
-    layout->addRow(tr("Fail commands that &match"), createPattern(host));
-    layout->addRow(tr("Each command &takes longer by"), createLatency());
-    auto* eventLoop = new QCheckBox(tr("&wait in an event loop"));
-    connect(eventLoop, &QCheckBox::toggled, this, [this](bool isOn) { faults.waitInEventLoop(isOn); });
-    layout->addRow(QString(), eventLoop);
-    connect(&faults, &Faults::waiting, this, [](bool isBegin) {
-        isBegin ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
-    });
-}
-
-QWidget* FaultPane::createCount(DevelopmentHost* host)
-{
-    auto* count = new NumberBox(largestCount);
-    count->setSpecialValueText(tr("none"));
-    count->setEnabled(!host->isReplaying());
-    connect(count, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int n) { faults.failNth(n); });
-    connect(&host->channel(), &ControllerChannel::executed, count, [this, count] {
+    Faults& faults = host->faults();
+    auto* count = new QSpinBox;
+    count->setMaximum(largestCount);
+    count->setSpecialValueText("none");
+    QObject::connect(count, QOverload<int>::of(&QSpinBox::valueChanged), count,
+                     [&faults](int n) { faults.failNth(n); });
+    const auto countDown = [&faults, count] {
         const QSignalBlocker blocker(count);
-        // Only if it differs: setValue() would discard a number that somebody is typing.
-        if (count->value() != faults.commandsToFailure())
-            count->setValue(faults.commandsToFailure());
+        count->setValue(faults.commandsToFailure());
+    };
+    QObject::connect(&host->channel(), &ControllerChannel::executed, count, [count, countDown] {
+        if (!count->hasFocus()) // The user may be typing a number.
+            countDown();
     });
+    QObject::connect(count, &QSpinBox::editingFinished, count, countDown);
     return count;
 }
 
-QWidget* FaultPane::createPattern(DevelopmentHost* host)
+QWidget* createPattern(Faults& faults)
 {
     auto* pattern = new QLineEdit(faults.failing().pattern());
-    pattern->setPlaceholderText(tr("regular expression, such as output_delay.*ch02"));
-    pattern->setEnabled(!host->isReplaying());
-    const QIcon warning = style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    QAction* mark = pattern->addAction(warning, QLineEdit::TrailingPosition);
+    pattern->setPlaceholderText("regular expression, such as output_delay.*ch02");
+    QAction* mark =
+        pattern->addAction(pattern->style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition);
     mark->setVisible(false);
-    connect(pattern, &QLineEdit::textChanged, this, [this, pattern, mark](const QString& text) {
+    QObject::connect(pattern, &QLineEdit::textChanged, pattern, [&faults, pattern, mark](const QString& text) {
         const QRegularExpression expression(text);
-        const QString error = tr("No regular expression, the former one stays: %1").arg(expression.errorString());
-        const QString reason = expression.isValid() ? QString() : error;
-        if (reason == mark->toolTip())
-            return;
-        mark->setToolTip(reason);
-        mark->setVisible(!reason.isEmpty());
-        pattern->setAccessibleDescription(reason);
-        QFont font = pattern->font();
-        font.setBold(!reason.isEmpty());
-        pattern->setFont(font);
-        emit said(reason);
-    });
-    connect(pattern, &QLineEdit::editingFinished, this, [this, pattern] {
-        const QRegularExpression expression(pattern->text());
         if (expression.isValid())
             faults.failMatching(expression);
+        mark->setVisible(!expression.isValid());
+        mark->setToolTip(QString("Not a valid regular expression (%1). The previous one stays active: %2")
+                             .arg(expression.errorString(), faults.failing().pattern()));
+        pattern->setAccessibleDescription(expression.isValid() ? QString() : mark->toolTip());
     });
     return pattern;
 }
 
-QWidget* FaultPane::createLatency()
+QWidget* createLatency(Faults& faults)
 {
-    auto* latency = new NumberBox(Faults::maximumLatency);
+    auto* latency = new QSpinBox;
+    latency->setMaximum(Faults::maximumLatency);
     latency->setSingleStep(latencyStep);
-    latency->setSuffix(tr(" ms"));
+    latency->setSuffix(" ms");
     latency->setValue(faults.latency());
-    connect(latency, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int ms) { faults.setLatency(ms); });
+    QObject::connect(latency, QOverload<int>::of(&QSpinBox::valueChanged), latency,
+                     [&faults](int ms) { faults.setLatency(ms); });
     return latency;
+}
+
+} // namespace
+
+QWidget* createFaultPane(DevelopmentHost* host)
+{
+    QWidget* count = createCount(host);
+    QWidget* pattern = createPattern(host->faults());
+    // What was recorded as failed fails in a replay.
+    count->setEnabled(!host->isReplaying());
+    pattern->setEnabled(!host->isReplaying());
+    auto* eventLoop = new QCheckBox("&wait in an event loop");
+    QObject::connect(eventLoop, &QCheckBox::toggled, [host](bool isOn) { host->faults().waitInEventLoop(isOn); });
+    auto* pane = new QWidget;
+    auto* layout = new QFormLayout(pane);
+    layout->setContentsMargins({});
+    layout->addRow("Fail the &n-th command from now", count);
+    layout->addRow("Fail commands that &match", pattern);
+    layout->addRow("Each command &takes longer by", createLatency(host->faults()));
+    layout->addRow(QString(), eventLoop);
+    return pane;
 }

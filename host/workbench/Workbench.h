@@ -5,8 +5,8 @@
 class DevelopmentHost;
 
 /**
- * The window beside the host's main window: the commands and their faults, the error reports, and the simulated
- * controller's state. It has no parent and stays usable while a module's dialog is open. Does not own the host.
+ * The window next to the host's main window: the log with the faults, and the simulated controller's table. It has no
+ * parent and stays usable while a module's dialog is open. Does not own the host.
  */
 class Workbench : public QWidget
 {
@@ -14,4 +14,6 @@ class Workbench : public QWidget
 
 public:
     explicit Workbench(DevelopmentHost* host);
+
+    void bringToFront();
 };

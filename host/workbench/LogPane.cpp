@@ -1,0 +1,144 @@
+#include "LogPane.h"
+
+#include "DevelopmentHost.h"
+#include "FaultPane.h"
+#include "FilteredTable.h"
+#include "WireText.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTime>
+
+static constexpr int answerColumn = 3;
+static constexpr double slowMilliseconds = 10; // more than it takes to paint the table
+
+/** What the first cell of a row has besides its line. */
+enum Role {
+    KindRole = FilteredTable::lineRole + 1, // "poll" if the row may be hidden, else "row"
+    DurationRole,                           // milliseconds of a command
+};
+
+LogPane::LogPane(DevelopmentHost* host)
+    : unpolled(new QSortFilterProxyModel(this)), table(new FilteredTable(unpolled, "Log")), sum(new QLabel)
+{
+    log.setHorizontalHeaderLabels({"Time", "Operation", "Command", "Answer", "Result", "Duration"});
+    unpolled->setFilterRole(KindRole);
+    unpolled->setSourceModel(&log);
+    setColumnWidths();
+    followEnd();
+    auto* layout = new QFormLayout(this);
+    layout->addRow("Fi&lter", table->filter());
+    layout->addRow(table);
+    layout->addRow(createFooter());
+    layout->addRow(createFaultPane(host));
+    connect(&host->channel(), &ControllerChannel::executed, this, &LogPane::addCommand);
+    connect(&host->channel(), &ControllerChannel::reported, this,
+            [this](auto& category, auto& tag, int flag, auto& message) {
+                addRow(
+                    {"report", escaped(message.toLatin1()), QString("%1 %2 %3").arg(category, tag).arg(flag), {}, {}},
+                    true);
+            });
+    connect(host, &DevelopmentHost::noted, this, [this](auto& text) { addRow({"note", text, {}, {}, {}}, true); });
+    summing.setSingleShot(true);
+    connect(&summing, &QTimer::timeout, this, &LogPane::sumUp);
+    const auto sumSoon = [this] { summing.start(); };
+    connect(table->model(), &QAbstractItemModel::rowsInserted, this, sumSoon);
+    connect(table->model(), &QAbstractItemModel::rowsRemoved, this, sumSoon);
+    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this, sumSoon);
+}
+
+/** Shows a slow command at once: no event loop may run before the module has asked all its commands. */
+void LogPane::addCommand(const CommandRecord& record)
+{
+    const bool hasFailed = record.result != 0;
+    const double milliseconds = static_cast<double>(record.microseconds) / 1000.0;
+    addRow({textOf(record.operation), escaped(record.command), escaped(record.answer), hasFailed ? "failed" : "ok",
+            QString("%1 ms").arg(milliseconds, 0, 'f', 3)},
+           hasFailed, milliseconds, traitsOf(record.text()).isPolled && !hasFailed);
+    if (milliseconds < slowMilliseconds)
+        return;
+    if (followsEnd)
+        table->scrollToBottom();
+    table->viewport()->repaint();
+}
+
+/** Adds a row with the present time and \a texts. */
+void LogPane::addRow(const QStringList& texts, bool isBold, const QVariant& milliseconds, bool isPoll)
+{
+    const QStringList all = QStringList(QTime::currentTime().toString("HH:mm:ss.zzz")) + texts;
+    QFont font;
+    font.setBold(isBold);
+    QList<QStandardItem*> row;
+    for (const QString& text : all) {
+        auto* item = new QStandardItem(text);
+        item->setToolTip(text);
+        item->setFont(font);
+        row.append(item);
+    }
+    row.first()->setData(all.join('\t'), FilteredTable::lineRole);
+    row.first()->setData(isPoll ? "poll" : "row", KindRole);
+    row.first()->setData(milliseconds, DurationRole);
+    log.appendRow(row);
+}
+
+void LogPane::setColumnWidths()
+{
+    const int widest[] = {15, 11, 44, 10, 8, 14}; // in average characters
+    for (int column = 0; column < log.columnCount(); ++column)
+        table->setColumnWidth(column, widest[column] * table->fontMetrics().averageCharWidth());
+    table->horizontalHeader()->setSectionResizeMode(answerColumn, QHeaderView::Stretch);
+}
+
+/** Keeps the newest row in view while the user has the table scrolled to its end. */
+void LogPane::followEnd()
+{
+    QScrollBar* bar = table->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) { followsEnd = value == bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int minimum, int maximum) {
+        followsEnd = followsEnd || minimum == maximum;
+        if (followsEnd)
+            bar->setValue(maximum);
+    });
+}
+
+QBoxLayout* LogPane::createFooter()
+{
+    auto* hidePolls = new QCheckBox("&Hide polls");
+    connect(hidePolls, &QCheckBox::toggled, unpolled,
+            [this](bool isOn) { unpolled->setFilterFixedString(isOn ? "row" : ""); });
+    hidePolls->setChecked(true);
+    auto* copy = new QPushButton("Co&py");
+    connect(copy, &QPushButton::clicked, table, &FilteredTable::copy);
+    auto* clear = new QPushButton("Cl&ear");
+    connect(clear, &QPushButton::clicked, this, [this] { log.removeRows(0, log.rowCount()); });
+    auto* row = new QHBoxLayout;
+    row->addWidget(sum, 1);
+    row->addWidget(hidePolls);
+    row->addWidget(copy);
+    row->addWidget(clear);
+    return row;
+}
+
+/** Sums up the selected rows, or all that are shown if none is selected. */
+void LogPane::sumUp()
+{
+    int commands = 0;
+    double milliseconds = 0;
+    const QModelIndexList rows = table->chosenRows();
+    for (const QModelIndex& row : rows) {
+        const QVariant duration = row.data(DurationRole);
+        commands += duration.isValid() ? 1 : 0;
+        milliseconds += duration.toDouble();
+    }
+    sum->setText(QString("%1 of %2 rows, %3 %4, %5 ms")
+                     .arg(rows.size())
+                     .arg(log.rowCount())
+                     .arg(commands)
+                     .arg(commands == 1 ? "command" : "commands")
+                     .arg(milliseconds, 0, 'f', 1));
+}
