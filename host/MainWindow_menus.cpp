@@ -102,7 +102,7 @@ void MainWindow::saveController()
         return;
     if (QFileInfo(file).suffix().isEmpty())
         file += ".txt";
-    const QString problem = ::saveController(file, host->controller().table());
+    const QString problem = saveTable(file, host->controller().table());
     say(problem.isEmpty() ? tr("Saved to %1").arg(file) : problem);
 }
 
