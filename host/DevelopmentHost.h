@@ -29,7 +29,8 @@ public:
     bool start();
     QString errorString() const { return error; }
 
-    /** Ends the module, connects to a controller that answers as \a table says and starts the module again. False like start(). */
+    /** Ends the module, connects to a controller that answers as \a table says and starts the module again. False like
+     * start(). */
     bool restart(const ControllerTable& table);
 
     // What the menus do. Each returns why it cannot, or an empty text. While the dialog is open or opening, none can.
@@ -43,8 +44,8 @@ public:
 
     /**
      * Lets the controller answer as \a table says from now on. Another protocol or model is a new connection, for which
-     * the dialog must be closed. If the protocol crosses 0.13, the module is loaded again, because a dialog that has met
-     * a legacy controller keeps labels hidden. Returns an error message, or an empty string on success.
+     * the dialog must be closed. If the protocol crosses 0.13, the module is loaded again, because a dialog that has
+     * met a legacy controller keeps labels hidden. Returns an error message, or an empty string on success.
      */
     QString changeController(const ControllerTable& table);
 

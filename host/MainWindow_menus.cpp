@@ -58,7 +58,8 @@ void MainWindow::createControllerMenu()
     add(menu, tr("&Reset"), tr("Puts the controller back to how it was chosen"),
         [this] { say(host->resetController()); });
     add(menu, tr("&Open..."), tr("Reads a controller file or a recording"), [this] { openController(); });
-    add(menu, tr("&Save as..."), tr("Writes the controller's present answers into a file"), [this] { saveController(); });
+    add(menu, tr("&Save as..."), tr("Writes the controller's present answers into a file"),
+        [this] { saveController(); });
     menu->addSeparator();
     menu->setToolTipsVisible(true); // the open menu may hide the status bar
     QVector<NamedController> controllers;

@@ -10,8 +10,8 @@ struct NamedController
 };
 
 /**
- * Reads the controller \a wanted, a name, a controller file or a recording. Returns an error message with file, line and
- * fault, and \a controller is unchanged, or an empty string on success.
+ * Reads the controller \a wanted, a name, a controller file or a recording. Returns an error message with file, line
+ * and fault, and \a controller is unchanged, or an empty string on success.
  */
 QString readController(const QString& wanted, NamedController* controller);
 

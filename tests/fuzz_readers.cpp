@@ -20,7 +20,8 @@ static void write(const QString& name, const QByteArray& content)
     demand(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }
 
-/** Called by libFuzzer: reads \a data as a recording and as a controller. An accepted controller can be saved and read. */
+/** Called by libFuzzer: reads \a data as a recording and as a controller. An accepted controller can be saved and read.
+ */
 extern "C" int LLVMFuzzerTestOneInput(const char* data, size_t size)
 {
     static int argc = 1;

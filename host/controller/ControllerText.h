@@ -6,8 +6,8 @@
 #include <QStringList>
 
 /**
- * Reads the lines of a controller file into a table, one by one. docs/workbench.md describes the format. A line replaces
- * what the table held before, but none may stand twice.
+ * Reads the lines of a controller file into a table, one by one. docs/workbench.md describes the format. A line
+ * replaces what the table held before, but none may stand twice.
  */
 class ControllerText
 {

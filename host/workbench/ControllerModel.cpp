@@ -10,8 +10,7 @@
 /** The rows above the answers. */
 enum HeaderRow { ProtocolRow, ModelRow, HeaderRowCount };
 
-ControllerModel::ControllerModel(DevelopmentHost* host)
-    : host(host), shown(host->controller().table()), marked(shown)
+ControllerModel::ControllerModel(DevelopmentHost* host) : host(host), shown(host->controller().table()), marked(shown)
 {
     // A burst of commands is shown once, and no opening of the dialog waits for the table.
     timer.setSingleShot(true);
