@@ -1,5 +1,6 @@
 #include "LoadedModule.h"
 
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -12,6 +13,7 @@ class TestDialog : public QObject
 
 private slots:
     void pollsEachSecondWhileOpen();
+    void isShownAndHiddenByTheHost();
     void hasForm();
 };
 
@@ -33,6 +35,29 @@ void TestDialog::pollsEachSecondWhileOpen()
     module.link.takeCommands();
     QTest::qWait(1200);
     QCOMPARE(module.link.commands, {});
+}
+
+/** The menu entry opens a dialog that the host has shown. It writes no source that changes before or after exec(). */
+void TestDialog::isShownAndHiddenByTheHost()
+{
+    LoadedModule module;
+    auto* source = module.find<QComboBox>("comboBox_source");
+    module.open([&] { module.dialog()->done(QDialog::Rejected); });
+    module.dialog()->show();
+    module.link.during = [&](const QByteArray& text) {
+        if (text == "get synccard available")
+            source->setCurrentIndex(1);
+    };
+    const int result = module.open([&] {
+        module.link.takeCommands();
+        QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
+        QCoreApplication::processEvents();
+        module.dialog()->hide();
+    });
+    QCOMPARE(result, int(QDialog::Rejected));
+    source->setCurrentIndex(2);
+    QTest::qWait(1200);
+    QCOMPARE(module.link.commands.join(", "), "get synccard has_input_frequency, get synccard input_frequency");
 }
 
 /** Heights and widths in pixels, and what the headers do. */

@@ -6,7 +6,6 @@
 #include "reporterror.h"
 
 #include <QPointer>
-#include <QTimer>
 
 namespace {
 
@@ -26,9 +25,8 @@ SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
     timer = new QTimer;
     timer->setInterval(pollIntervalMilliseconds);
     connect(timer, &QTimer::timeout, this, &SynccardDialog::poll_input_frequency);
-    // A host may also end the dialog with done(), which calls neither accept() nor reject().
-    connect(this, &QDialog::finished, timer, &QTimer::stop);
-    connect(this, &QDialog::finished, this, &SynccardDialog::noteClosed);
+    waitTimer.setSingleShot(true);
+    connect(&waitTimer, &QTimer::timeout, this, &SynccardDialog::carryOutWaiting);
     setup_tableWidget_synccards();
     setup_tableWidget_channels();
     showDetails(false);
@@ -49,16 +47,16 @@ int SynccardDialog::update_and_exec()
     else
         setWindowIcon(m_parent ? m_parent->windowIcon() : QIcon());
     bSynccardAvailable = isSynccardAvailable();
+    disableDialog(!bSynccardAvailable);
     if (!bSynccardAvailable)
-        return exec_without_synccard();
+        return run();
     bSomethingChanged = false;
-    disableDialog(false);
     show_frame_syncinput_if_necessary();
     const QPointer<SynccardDialog> self(this);
     const int result =
         isProtocolAtLeast(0, 13) ? update_and_exec_prot_version_0_13() : update_and_exec_prot_version_0_8();
-    if (self && step == Opening) // a failed read stopped it
-        step = NoStep;
+    if (self)
+        endStep(); // a failed read has left the opening under way
     return result;
 }
 
@@ -66,27 +64,11 @@ int SynccardDialog::update_and_exec_prot_version_0_13()
 {
     if (!update_tableWidget_synccards())
         return -1;
-    bUserAction = false;
     const int modesResult = update_comboBox_modes();
     if (modesResult != 0)
         return modesResult;
     updateControlsDirectSettings();
     storePreviousSettings();
-    bUserAction = true;
-    bSomethingChanged = false;
-    return exec_with_poll();
-}
-
-int SynccardDialog::exec_without_synccard()
-{
-    disableDialog(true);
-    return run();
-}
-
-/** Both protocol paths end here. No code may follow exec(): its parent may have deleted the dialog by then. */
-int SynccardDialog::exec_with_poll()
-{
-    timer->start();
     updateWidthContols();
     return run();
 }

@@ -6,10 +6,12 @@
 
 #include <QDialog>
 #include <QIcon>
+#include <QTimer>
+
+#include <optional>
 
 class BackendVersions;
 class IOManager;
-class QTimer;
 
 /**
  * The modal "Synccard Settings" dialog. At every opening it reads the synccard settings from the controller and shows
@@ -59,8 +61,6 @@ private:
     void showDetails(bool bShow);
     void updateWidthContols();
     void lockEditing();
-    int exec_without_synccard();
-    int exec_with_poll();
     /** Whether the controller speaks protocol \a major.\a minor or later; false without versions. */
     bool isProtocolAtLeast(int major, int minor) const;
     bool hasCurrentCard() const;
@@ -111,28 +111,22 @@ private:
 
     // Leaving: SynccardDialog_leave.cpp
     void storePreviousSettings();
-    void startLeaving();
     bool applyMode();
     bool warnOfFailedChange();
     void restorePreviousSettings();
     bool restoreSource(const QString& source);
 
     // One step at a time: SynccardDialog_steps.cpp
-    enum Step {
-        NoStep,
-        Opening, // reads, up to its exec()
-        Working, // a poll, a new source, or an exit
-        Waiting, // what waits is about to be carried out
-    };
     bool beginOpening();
+    int run();
     bool beginStep();
-    void endStep();
+    bool beginSource();
     bool beginExit(DialogCode exit);
+    void endStep();
     void endExit(DialogCode exit);
     void carryOutWaiting();
-    void noteClosed();
-    void forgetWaiting();
-    int run();
+    void hideEvent(QHideEvent* event) override;
+    void stopInput();
 
     QTimer* timer = nullptr;
     IOManager* cm = nullptr;
@@ -140,16 +134,16 @@ private:
     QWidget* m_parent = nullptr;
     bool bSynccardAvailable = false;
     DoubleSpinboxDelegate doubleSpinboxDelegate;
-    bool bUserAction = false;
+    bool bUserAction = false; // from the exec() of an opening until an exit begins or the dialog is hidden
     bool bSomethingChanged = false;
     SynccardList synccards;
     SynccardList previousSettings;
+    QString sSentSource; // last sent since the snapshot was taken, or that of the snapshot
     bool m_is_config_locked = false;
     QIcon m_icon_lock;
-    Step step = NoStep;
-    bool bSourceWaits = false;
-    bool bExitWaits = false;
-    DialogCode waitingExit = Rejected;
-    bool bClosed = false;    // since the exit under way began
+    bool bBusy = false;      // a step is under way
     bool bExecuting = false; // exec() has not returned yet
+    bool bSourceWaits = false;
+    std::optional<DialogCode> waitingExit;
+    QTimer waitTimer; // carries out what waits
 };

@@ -220,13 +220,8 @@ bool SynccardDialog::isProtocolWithoutDivisor() const
 
 void SynccardDialog::on_comboBox_source_currentIndexChanged(int idx)
 {
-    if (!bUserAction)
-        return;
     const QString source = comboBox_source->itemData(idx).toString();
-    if (source.isEmpty())
-        return;
-    bSourceWaits = !beginStep();
-    if (bSourceWaits)
+    if (!bUserAction || source.isEmpty() || !beginSource())
         return;
     if (setSourceToHub(source) == 0) {
         update_doubleSpinBox_frequency();
