@@ -27,6 +27,7 @@ SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
     connect(timer, &QTimer::timeout, this, &SynccardDialog::poll_input_frequency);
     waitTimer.setSingleShot(true);
     connect(&waitTimer, &QTimer::timeout, this, &SynccardDialog::carryOutWaiting);
+    takeWheelWithFocusAlone();
     setup_tableWidget_synccards();
     setup_tableWidget_channels();
     showDetails(false);
@@ -35,6 +36,26 @@ SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
 SynccardDialog::~SynccardDialog()
 {
     delete timer;
+}
+
+/** A wheel that is meant for the window would otherwise change a control that happens to lie under the pointer. */
+void SynccardDialog::takeWheelWithFocusAlone()
+{
+    const QList<QWidget*> controls = {comboBox_modes, comboBox_source, comboBox_output, doubleSpinBox_frequency,
+                                      spinBox_externalDivisor};
+    for (QWidget* control : controls) {
+        control->setFocusPolicy(Qt::StrongFocus); // WheelFocus gives the focus before the filter sees the wheel
+        control->installEventFilter(this);
+    }
+}
+
+bool SynccardDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* control = qobject_cast<QWidget*>(watched);
+    if (event->type() != QEvent::Wheel || !control || control->hasFocus())
+        return QDialog::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 int SynccardDialog::update_and_exec()

@@ -53,6 +53,8 @@ private:
     enum CardColumn { ModelColumn, SerialColumn, CardColumnCount };
 
     // Entry and switches: SynccardDialog.cpp
+    void takeWheelWithFocusAlone();
+    bool eventFilter(QObject* watched, QEvent* event) override;
     int update_and_exec_prot_version_0_13();
     bool isSynccardAvailable();
     bool is_config_locked();
