@@ -63,10 +63,8 @@ int SynccardDialog::update_and_exec()
     if (!beginOpening())
         return -1;
     m_is_config_locked = is_config_locked();
-    if (m_is_config_locked)
-        lockEditing();
-    else
-        setWindowIcon(m_parent ? m_parent->windowIcon() : QIcon());
+    const QIcon icon = m_parent ? m_parent->windowIcon() : QIcon();
+    setWindowIcon(m_is_config_locked ? m_icon_lock : icon);
     bSynccardAvailable = isSynccardAvailable();
     disableDialog(!bSynccardAvailable);
     if (!bSynccardAvailable)
@@ -116,16 +114,10 @@ bool SynccardDialog::is_config_locked()
     return answer.text() == QLatin1String("no");
 }
 
-void SynccardDialog::lockEditing()
+/** Enables or disables an editing control. A locked configuration keeps it disabled. */
+void SynccardDialog::setEditable(QWidget* control, bool bEnable)
 {
-    setWindowIcon(m_icon_lock);
-    comboBox_modes->setDisabled(true);
-    comboBox_source->setDisabled(true);
-    comboBox_output->setDisabled(true);
-    doubleSpinBox_frequency->setDisabled(true);
-    spinBox_externalDivisor->setDisabled(true);
-    tableWidget_channels->setDisabled(true);
-    pushButton_Ok->setDisabled(true);
+    control->setEnabled(bEnable && !m_is_config_locked);
 }
 
 void SynccardDialog::disableDialog(bool bDisable)
@@ -139,10 +131,8 @@ void SynccardDialog::disableDialog(bool bDisable)
     label_inputFrequency1->setDisabled(bDisable);
     label_inputFrequency->setDisabled(bDisable);
     label_supportedSynccardModes->setDisabled(bDisable);
-    if (!m_is_config_locked) {
-        comboBox_modes->setDisabled(bDisable);
-        pushButton_Ok->setDisabled(bDisable);
-    }
+    setEditable(comboBox_modes, !bDisable);
+    setEditable(pushButton_Ok, !bDisable);
     disableDetails(bDisable);
 }
 
@@ -150,13 +140,11 @@ void SynccardDialog::disableDetails(bool bDisable)
 {
     label_source->setDisabled(bDisable);
     label_output->setDisabled(bDisable);
-    if (!m_is_config_locked) {
-        comboBox_source->setDisabled(bDisable);
-        comboBox_output->setDisabled(bDisable);
-        doubleSpinBox_frequency->setDisabled(bDisable);
-        spinBox_externalDivisor->setDisabled(bDisable);
-        tableWidget_channels->setDisabled(bDisable);
-    }
+    setEditable(comboBox_source, !bDisable);
+    setEditable(comboBox_output, !bDisable);
+    setEditable(doubleSpinBox_frequency, !bDisable);
+    setEditable(spinBox_externalDivisor, !bDisable);
+    setEditable(tableWidget_channels, !bDisable);
     label_frequency->setDisabled(bDisable);
     label_externalDivisor->setDisabled(bDisable);
 }

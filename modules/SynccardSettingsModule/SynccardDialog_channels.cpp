@@ -35,8 +35,7 @@ void SynccardDialog::update_comboBox_output()
     comboBox_output->clear();
     const bool hasChoice = isProtocolAtLeast(1, 23) && offer_outputs() > 1;
     label_output->setEnabled(hasChoice);
-    if (!hasChoice || !m_is_config_locked)
-        comboBox_output->setEnabled(hasChoice);
+    setEditable(comboBox_output, hasChoice);
     if (!hasChoice)
         return;
     TextAnswer current;

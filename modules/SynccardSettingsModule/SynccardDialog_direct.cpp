@@ -160,8 +160,7 @@ void SynccardDialog::show_internal_frequency()
         frequency = defaultFrequencyHz;
     }
     label_frequency->setEnabled(true);
-    if (!m_is_config_locked)
-        doubleSpinBox_frequency->setEnabled(true);
+    setEditable(doubleSpinBox_frequency, true);
     doubleSpinBox_frequency->setMinimum(minimumInternalFrequencyHz);
     doubleSpinBox_frequency->setMaximum(maximum);
     doubleSpinBox_frequency->setValue(frequency);
@@ -206,8 +205,7 @@ void SynccardDialog::show_external_divisor(const QString& source)
     // A divisor with only one possible value is shown, but disabled.
     const bool isFixed = maximum <= minimum;
     label_externalDivisor->setDisabled(isFixed);
-    if (isFixed || !m_is_config_locked)
-        spinBox_externalDivisor->setDisabled(isFixed);
+    setEditable(spinBox_externalDivisor, !isFixed);
     spinBox_externalDivisor->setMinimum(minimum);
     spinBox_externalDivisor->setMaximum(maximum);
     spinBox_externalDivisor->setValue(divisor);
