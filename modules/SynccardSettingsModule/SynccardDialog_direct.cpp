@@ -7,6 +7,7 @@
 #include "reporterror.h"
 
 #include <QHeaderView>
+#include <QtNumeric>
 
 #include <charconv>
 
@@ -150,12 +151,12 @@ void SynccardDialog::show_internal_frequency()
 {
     double maximum = defaultFrequencyHz;
     if (isProtocolAtLeast(1, 5)
-        && !isRead(cm->getParameterDouble(&maximum, "synccard max_internal_frequency d01"), maximum)) {
+        && (cm->getParameterDouble(&maximum, "synccard max_internal_frequency d01") != 0 || !qIsFinite(maximum))) {
         reportError(cm, QStringLiteral("Error: Unable to get maximum internal frequency from synccard 1"));
         maximum = defaultFrequencyHz;
     }
     double frequency = defaultFrequencyHz;
-    if (!isRead(cm->getParameterDouble(&frequency, "synccard internal_frequency d01"), frequency)) {
+    if (cm->getParameterDouble(&frequency, "synccard internal_frequency d01") != 0 || !qIsFinite(frequency)) {
         reportError(cm, QStringLiteral("Error: Unable to get internal frequency from synccard 1"));
         frequency = defaultFrequencyHz;
     }
