@@ -68,7 +68,6 @@ void SynccardDialog::setup_tableWidget_channels()
     tableWidget_channels->setColumnCount(ChannelColumnCount);
     tableWidget_channels->horizontalHeader()->resizeSection(ChannelColumn, initialChannelColumnWidth);
     tableWidget_channels->horizontalHeader()->setStretchLastSection(true);
-    tableWidget_channels->setRowCount(0);
     tableWidget_channels->setHorizontalHeaderLabels(
         {tr("Channel"), tr("Delay [us]"), tr("Active during idle"), tr("Max delay")});
     tableWidget_channels->verticalHeader()->setDefaultSectionSize(defaultRowHeight);

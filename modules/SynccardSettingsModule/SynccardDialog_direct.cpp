@@ -37,15 +37,11 @@ void SynccardDialog::setup_tableWidget_synccards()
     tableWidget_synccards->setColumnCount(CardColumnCount);
     tableWidget_synccards->horizontalHeader()->resizeSection(ModelColumn, initialModelColumnWidth);
     tableWidget_synccards->horizontalHeader()->setStretchLastSection(true);
-    tableWidget_synccards->setRowCount(0);
     tableWidget_synccards->setHorizontalHeaderLabels({tr("Model"), tr("Serial")});
     tableWidget_synccards->verticalHeader()->setDefaultSectionSize(rowHeight);
     tableWidget_synccards->horizontalHeader()->setSectionsClickable(false);
-    tableWidget_synccards->setSelectionMode(QAbstractItemView::NoSelection);
     tableWidget_synccards->setTabKeyNavigation(false); // Tab goes on to the next control
     tableWidget_synccards->setAccessibleName(tableWidget_synccards->whatsThis());
-    tableWidget_synccards->setSelectionBehavior(QAbstractItemView::SelectRows);
-    tableWidget_synccards->setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
 
 /** Lists all cards. Returns false when their number or one of the cards cannot be read. */
