@@ -29,7 +29,8 @@ public:
 public slots:
     /**
      * Fills the dialog from the controller and runs it modally. Returns QDialog::Accepted or QDialog::Rejected. Returns
-     * -1, without running the dialog, when it is already open or a read fails that the dialog cannot do without.
+     * -1, without running the dialog, while an earlier call or another step is under way, or when a read fails that the
+     * dialog cannot do without.
      */
     int update_and_exec();
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Results of saveDirectSettings(); 5 and 6 are not used. */
+/** Results of saveDirectSettings(). Its caller only asks for Saved. The other numbers, without 5 and 6, are agreed. */
 enum SaveResult {
     Saved = 0,
     DirectSettingsFailed = 1,

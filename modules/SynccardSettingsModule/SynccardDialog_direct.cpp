@@ -120,6 +120,7 @@ void SynccardDialog::update_comboBox_source()
         else if (answer.isYes())
             comboBox_source->addItem(tr(source.description), QString::fromLatin1(source.keyword));
     }
+    // The current row is the first one during an opening, so this asks card 1, although the row shows the last card.
     TextAnswer current;
     if (cm->getParameter(current.buffer(), "synccard source d%2.2d", tableWidget_synccards->currentRow() + 1) != 0) {
         reportError(cm, QStringLiteral("Error: Unable to get Synccard source"));

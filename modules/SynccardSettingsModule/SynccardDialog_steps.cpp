@@ -3,12 +3,12 @@
 #include <QHideEvent>
 #include <QPointer>
 
-// A channel may run an event loop in a command or in a report, so that input and timers arrive while the dialog works.
-// An opening, a poll, a new source or an exit begins a step, unless another step is under way or something waits.
-// A step ends after its last command; an exit also closes the dialog.
-// While the dialog takes input, a new source and the first exit wait for the step to end, the source to be written
-// first. Anything else is dropped at once, a waiting source by Cancel, and all that waits when the dialog hides or
-// exec() ends.
+// A channel may run an event loop in a command or in a report, so that input and timers arrive while the dialog works:
+// - An opening, a poll, a new source or an exit begins a step, unless another step is under way or something waits.
+// - A step ends after its last command: that of an opening before exec(), that of an exit when the dialog is closed.
+// - While the dialog is open, a new source waits for the end of the step, and the first exit waits for both.
+// - Other requests are dropped at once, a waiting source by Cancel, all that waits when the dialog hides or exec()
+// ends.
 
 /** Refuses an opening during another step, while something waits, and until the exec() of an earlier one returns. */
 bool SynccardDialog::beginOpening()
