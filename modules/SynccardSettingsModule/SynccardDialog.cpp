@@ -115,7 +115,7 @@ bool SynccardDialog::is_config_locked()
 }
 
 /** Enables or disables an editing control. A locked configuration keeps it disabled. */
-void SynccardDialog::setEditable(QWidget* control, bool bEnable)
+void SynccardDialog::setEditable(QWidget* control, bool bEnable) const
 {
     control->setEnabled(bEnable && !m_is_config_locked);
 }

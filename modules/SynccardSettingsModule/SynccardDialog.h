@@ -63,7 +63,7 @@ private:
     void disableDetails(bool bDisable);
     void showDetails(bool bShow);
     void updateWidthContols();
-    void setEditable(QWidget* control, bool bEnable);
+    void setEditable(QWidget* control, bool bEnable) const;
     /** Whether the controller speaks protocol \a major.\a minor or later; false without versions. */
     bool isProtocolAtLeast(int major, int minor) const;
     bool hasCurrentCard() const;
