@@ -17,9 +17,11 @@ public:
     QString quoted() const
     {
         const QString answer = text();
-        const int open = answer.indexOf(QLatin1Char('"'));
-        const QString rest = open < 0 ? QString() : answer.mid(open + 1);
-        return rest.left(rest.indexOf(QLatin1Char('"'))); // all of it without a second quote
+        const int begin = answer.indexOf(QLatin1Char('"')) + 1;
+        if (begin == 0)
+            return {};
+        const int end = answer.indexOf(QLatin1Char('"'), begin);
+        return answer.mid(begin, end < 0 ? -1 : end - begin);
     }
 
     /** The word at \a index, counted from 0, words being separated by white space; empty when there are fewer words. */
