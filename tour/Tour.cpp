@@ -40,10 +40,10 @@ static QPixmap pictureOf(QDialog* dialog)
 static void printCommand(const CommandRecord& record)
 {
     const QString outcome = record.result == 0 ? QString::fromLatin1(record.answer) : QString("failed");
+    // In one call: an answer may contain "%4".
     print(QString("%1 %2 -> %3 (%4)")
               .arg(QString::fromLatin1(textOf(record.operation)).leftJustified(6), QString::fromLatin1(record.command),
-                   outcome)
-              .arg(record.result));
+                   outcome, QString::number(record.result)));
 }
 
 Tour::Tour(const HostSetup& setup, const QString& pictureFolder)
