@@ -12,29 +12,9 @@ constexpr int initialColumnWidth = 200;
 constexpr int modelColumnWidth = 165;
 constexpr int channelColumnWidth = 110;
 
-struct Mode
-{
-    QString id;
-    QString text;
-};
-
-/** The modes m001 to m099, made once, so that making them counts for neither side. */
-const QVector<Mode>& allModes()
-{
-    static const QVector<Mode> modes = [] {
-        QVector<Mode> made;
-        for (int number = 1; number <= 99; ++number) {
-            const QString id = QString("m%1").arg(number, 3, 10, QLatin1Char('0'));
-            made.append({id, "Mode " + id});
-        }
-        return made;
-    }();
-    return modes;
-}
-
 } // namespace
 
-BareDialog::BareDialog(QWidget* parent) : QDialog(parent)
+BareDialog::BareDialog(QWidget* parent, const Workload& workload) : QDialog(parent), workload(workload)
 {
     setupUi(this);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
@@ -63,12 +43,6 @@ void BareDialog::setUpTable(QTableWidget* table, const QStringList& headers)
     table->setSelectionMode(QAbstractItemView::NoSelection);
 }
 
-void BareDialog::on_comboBox_modes_currentIndexChanged(const QString& text)
-{
-    showDetails(text == "direct settings");
-    mark();
-}
-
 void BareDialog::showDetails(bool isShown)
 {
     for (QWidget* widget : std::initializer_list<QWidget*>{
@@ -77,63 +51,43 @@ void BareDialog::showDetails(bool isShown)
         widget->setVisible(isShown);
 }
 
-void BareDialog::fill(const Workload& workload)
+int BareDialog::update_and_exec()
 {
-    isUserAction = false;
     setWindowIcon(parentWidget()->windowIcon());
-    enableAll();
+    label_error->setVisible(false);
     frame_syncinput->setVisible(true);
-    fillCards(workload.cards);
-    fillModes(workload.modes);
-    fillSettings();
-    fillChannels(workload.channels);
+    fillCards();
+    fillControls();
+    fillChannels();
     doubleSpinBox_frequency->setMinimumWidth(comboBox_source->width());
     spinBox_externalDivisor->setMinimumWidth(comboBox_source->width());
-    isUserAction = true;
-    hasChanged = false;
+    return exec();
 }
 
-void BareDialog::enableAll()
-{
-    label_error->setText(QString());
-    label_error->setVisible(false);
-    for (QWidget* widget : std::initializer_list<QWidget*>{
-             tableWidget_synccards, label_syncInput, label_inputSource1, label_inputSource, label_inputFrequency1,
-             label_inputFrequency, label_supportedSynccardModes, comboBox_modes, pushButton_Ok, label_source,
-             label_output, comboBox_source, comboBox_output, doubleSpinBox_frequency, tableWidget_channels,
-             label_frequency})
-        widget->setEnabled(true);
-}
-
-void BareDialog::fillCards(int cards)
+void BareDialog::fillCards()
 {
     tableWidget_synccards->setRowCount(0);
-    for (int card = 1; card <= cards; ++card) {
-        const int serial = 10000 + card;
+    for (int card = 0; card < workload.cards; ++card) {
         tableWidget_synccards->insertRow(0);
         auto* modelItem = new QTableWidgetItem(QStringLiteral("Sync card"));
         tableWidget_synccards->setItem(0, 0, modelItem);
         modelItem->setData(Qt::UserRole, QStringLiteral("0x0402"));
-        auto* serialItem = new QTableWidgetItem(QString::number(serial));
+        auto* serialItem = new QTableWidgetItem(QStringLiteral("4711"));
         tableWidget_synccards->setItem(0, 1, serialItem);
         serialItem->setTextAlignment(Qt::AlignCenter);
-        serialItem->setData(Qt::UserRole, serial);
+        serialItem->setData(Qt::UserRole, 4711);
     }
     tableWidget_synccards->setCurrentCell(0, 0);
     tableWidget_synccards->setColumnWidth(0, modelColumnWidth);
 }
 
-void BareDialog::fillModes(int modes)
+void BareDialog::fillControls()
 {
     comboBox_modes->clear();
-    for (int mode = 0; mode < modes; ++mode)
-        comboBox_modes->addItem(allModes().at(mode).text, allModes().at(mode).id);
+    for (int mode = 0; mode < workload.modes; ++mode)
+        comboBox_modes->addItem(QStringLiteral("Mode m100"), QStringLiteral("m100"));
     comboBox_modes->addItem("direct settings", "direct settings");
-    comboBox_modes->setCurrentIndex(modes);
-}
-
-void BareDialog::fillSettings()
-{
+    comboBox_modes->setCurrentIndex(workload.modes);
     comboBox_source->clear();
     comboBox_source->addItem("internal generated signal", "internal");
     comboBox_source->addItem("external video signal", "video");
@@ -147,32 +101,31 @@ void BareDialog::fillSettings()
     comboBox_output->addItem("ttl inverted", "ttlinv");
     comboBox_output->setCurrentIndex(1);
     doubleSpinBox_frequency->setMinimum(10.0);
-    doubleSpinBox_frequency->setMaximum(maximumFrequencyHz);
-    doubleSpinBox_frequency->setValue(frequencyHz);
+    doubleSpinBox_frequency->setMaximum(maximumValue);
+    doubleSpinBox_frequency->setValue(usualValue);
     label_externalDivisor->setDisabled(true);
     spinBox_externalDivisor->setDisabled(true);
     spinBox_externalDivisor->setMinimum(0);
-    spinBox_externalDivisor->setMaximum(maximumDivisor);
+    spinBox_externalDivisor->setMaximum(100);
     spinBox_externalDivisor->setValue(1);
 }
 
-void BareDialog::fillChannels(int channels)
+void BareDialog::fillChannels()
 {
     tableWidget_channels->clearContents();
     tableWidget_channels->setRowCount(0);
-    for (int channel = 1; channel <= channels; ++channel) {
-        const int row = tableWidget_channels->rowCount();
+    for (int row = 0; row < workload.channels; ++row) {
         tableWidget_channels->insertRow(row);
-        auto* channelItem = new QTableWidgetItem(QString::number(channel));
+        auto* channelItem = new QTableWidgetItem(QString::number(row + 1));
         tableWidget_channels->setItem(row, 0, channelItem);
         channelItem->setFlags(Qt::ItemIsEnabled);
-        auto* delayItem = new QTableWidgetItem(QString::number(delayMilliseconds(channel) * 1000.0, 'f', 0));
+        auto* delayItem = new QTableWidgetItem(QString::number(usualValue * 1000.0, 'f', 0));
         tableWidget_channels->setItem(row, 1, delayItem);
         auto* idleItem = new QTableWidgetItem;
         tableWidget_channels->setItem(row, 2, idleItem);
         idleItem->setFlags(Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
-        idleItem->setCheckState(isActiveDuringIdle(channel) ? Qt::Checked : Qt::Unchecked);
-        auto* maximumItem = new QTableWidgetItem(QString::number(maximumDelayMilliseconds * 1000.0, 'f', 1));
+        idleItem->setCheckState(Qt::Checked);
+        auto* maximumItem = new QTableWidgetItem(QString::number(maximumValue * 1000.0, 'f', 1));
         tableWidget_channels->setItem(row, 3, maximumItem);
         delayItem->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         tableWidget_channels->setRowHeight(row, channelRowHeight);

@@ -5,84 +5,65 @@
 #include <QImage>
 #include <QTimer>
 
+#include <algorithm>
+
+void open(QDialog* dialog, const std::function<void()>& inside)
+{
+    QTimer::singleShot(0, dialog, [inside, dialog] {
+        if (inside)
+            inside();
+        dialog->done(QDialog::Rejected);
+    });
+    QMetaObject::invokeMethod(dialog, "update_and_exec");
+}
+
+/** Names the widget of the line \a module and shows where the line \a bare differs: a line may be long. */
+static QString firstDifference(const QString& module, const QString& bare)
+{
+    const auto* const end = std::mismatch(module.begin(), module.end(), bare.begin(), bare.end()).first;
+    const int begin = qMax(0, static_cast<int>(end - module.begin()) - 20);
+    return QString("%1: the module shows '%2', the bare dialog '%3'")
+        .arg(module.section(':', 0, 0), module.mid(begin, 60), bare.mid(begin, 60));
+}
+
 Comparison::Comparison(const Workload& workload)
-    : channel(workload), versions({1, 0, 0}, {1, 23, 0}, {1, 0, 0}, "QUILLSTONE"), loader(ModuleLoader::defaultFile())
+    : channel(workload), versions({1, 0, 0}, {1, 23, 0}, {1, 0, 0}, "QUILLSTONE"), bare(&parent, workload),
+      loader(ModuleLoader::defaultFile())
 {
     if (!loader.load())
         qFatal("%s", qPrintable(loader.errorString()));
     loader.setParameters(&channel, &parent, &versions, false);
-    constructModule();
-    constructBare();
 }
 
-void Comparison::destruct()
+QDialog* Comparison::module() const
 {
-    loader.module()->exit_module();
-    bare.reset();
+    return qobject_cast<QDialog*>(loader.module()->get_gui_elements().constFirst()->content);
 }
 
-void Comparison::constructModule()
+QString Comparison::difference()
 {
-    module = qobject_cast<QDialog*>(loader.module()->get_gui_elements().constFirst()->content);
-}
-
-void Comparison::constructBare()
-{
-    bare = std::make_unique<BareDialog>(&parent);
-}
-
-void Comparison::openModule(const Steps& inside) const
-{
-    QTimer::singleShot(0, module, [&] {
-        if (inside)
-            inside();
-        module->done(QDialog::Rejected);
-    });
-    call("update_and_exec");
-}
-
-void Comparison::openBare(const Steps& inside) const
-{
-    QTimer::singleShot(0, bare.get(), [&] {
-        if (inside)
-            inside();
-        bare->done(QDialog::Rejected);
-    });
-    bare->fill(channel.workload);
-    bare->exec();
-}
-
-void Comparison::call(const char* slot) const
-{
-    QMetaObject::invokeMethod(module, slot, Qt::DirectConnection);
-}
-
-int Comparison::commandsOf(const Steps& steps) const
-{
-    const int before = channel.commands;
-    steps();
-    return channel.commands - before;
-}
-
-QString Comparison::difference() const
-{
-    QStringList moduleLines;
-    QStringList bareLines;
-    QImage modulePicture;
-    QImage barePicture;
-    openModule([&] {
-        moduleLines = textOfDialog(module);
-        modulePicture = module->grab().toImage();
-    });
-    openBare([&] {
-        bareLines = textOfDialog(bare.get());
-        barePicture = bare->grab().toImage();
-    });
-    for (int i = 0; i < qMax(moduleLines.size(), bareLines.size()); ++i) {
-        if (moduleLines.value(i) != bareLines.value(i))
-            return QString("the module shows '%1', the bare dialog '%2'").arg(moduleLines.value(i), bareLines.value(i));
+    QDialog* const dialogs[] = {module(), &bare};
+    for (QDialog* dialog : dialogs)
+        open(dialog);
+    const int firstReads = channel.reads;
+    QStringList lines[2];
+    QImage pictures[2];
+    for (int i = 0; i < 2; ++i)
+        open(dialogs[i], [&] {
+            lines[i] = textOfDialog(dialogs[i]);
+            pictures[i] = dialogs[i]->grab().toImage();
+        });
+    for (int i = 0; i < qMax(lines[0].size(), lines[1].size()); ++i) {
+        if (lines[0].value(i) != lines[1].value(i))
+            return firstDifference(lines[0].value(i), lines[1].value(i));
     }
-    if (channel.reports > 0)
-        return "the module reports errors to the host";
-    return modulePicture == barePicture ? QString() : "the pictures of the module and the bare dialog differ";
+    if (pictures[0] != pictures[1])
+        return "the pictures of the module and the bare dialog differ";
+    if (!channel.reports.isEmpty())
+        return "the module reports: " + channel.reports.constFirst();
+    if (channel.reads != 2 * firstReads)
+        return QString("the module's first opening reads %1 commands, the first two %2")
+            .arg(firstReads)
+            .arg(channel.reads);
+    return {};
 }

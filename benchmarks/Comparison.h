@@ -8,48 +8,28 @@
 #include <QWidget>
 
 #include <functional>
-#include <memory>
+
+/** Opens \a dialog by its slot, runs \a inside as soon as the dialog is open, then closes the dialog. */
+void open(QDialog* dialog, const std::function<void()>& inside = nullptr);
 
 /** Holds the module's dialog and the bare dialog, so that both can show the same workload. */
 class Comparison
 {
 public:
-    using Steps = std::function<void()>;
-
     explicit Comparison(const Workload& workload);
 
-    /** Deletes both dialogs. The next two functions construct them again. */
-    void destruct();
-    void constructModule();
-    void constructBare();
-
-    /** Opens the module's dialog, runs \a inside as soon as the dialog is open, then closes the dialog. */
-    void openModule(const Steps& inside = nullptr) const;
-    /** Does the same with the bare dialog, which it fills first. */
-    void openBare(const Steps& inside = nullptr) const;
-
-    /** Calls a slot of the module's dialog by its name. */
-    void call(const char* slot) const;
-
-    /** Runs \a steps and returns the number of commands that the module sends meanwhile. */
-    int commandsOf(const Steps& steps) const;
+    /** The module's dialog, which this constructs if there is none. */
+    QDialog* module() const;
 
     /**
-     * The first reason why the dialogs cannot be compared: they show different texts, the module reports errors, or
-     * their pictures differ. Empty when there is none.
+     * Returns why the dialogs cannot be compared, or an empty string: they show different texts, their pictures differ,
+     * the module reports an error, or its second opening does not read as many commands as the first one.
      */
-    QString difference() const;
+    QString difference();
 
     WorkloadChannel channel;
-    QDialog* module = nullptr;
-
-private:
     BackendVersions versions;
-    QWidget parent;
-
-public:
-    std::unique_ptr<BareDialog> bare; // declared after its parent widget, so that it is deleted before it
-
-private:
-    ModuleLoader loader;
+    QWidget parent; // of both dialogs
+    BareDialog bare;
+    ModuleLoader loader; // declared last, so that the module ends before what it uses
 };

@@ -1,124 +1,73 @@
 #include "WorkloadChannel.h"
 
-#include <cstdarg>
 #include <cstring>
-#include <string_view>
 
 namespace {
 
-void answerText(char* answer, const char* text)
+struct Row
 {
-    std::strcpy(answer, text); // NOLINT(clang-analyzer-security.insecureAPI.strcpy): the texts of this file
-}
+    std::string_view parameter;
+    const char* answer;
+};
 
-/** Answers \a prefix, \a number with three digits, and \a suffix, without a space between them. */
-void answerNumber(char* answer, const char* prefix, int number, const char* suffix)
-{
-    answerText(answer, prefix);
-    char* end = answer + std::strlen(answer);
-    for (const int unit : {100, 10, 1})
-        *end++ = static_cast<char>('0' + number / unit % 10);
-    answerText(end, suffix);
-}
+constexpr Row table[] = {
+    {"synccard", "0x0402 4711"},
+    {"model_desc", "\"Sync card\""},
+    {"mode", "m100"},
+    {"mode_desc", "zorvan2 get synccard mode_desc m100 \"Mode m100\""},
+    {"active_mode", "zorvan2 get synccard active_mode none"},
+    {"source", "internal"},
+    {"output", "ttl"},
+};
 
 } // namespace
 
-// Declares the constant 'name' and gives it the first argument after the format.
-// NOLINTBEGIN(bugprone-macro-parentheses): a type and a name cannot stand in parentheses
-#define FIRST_ARGUMENT(type, name)                                                                                     \
-    va_list arguments;                                                                                                 \
-    va_start(arguments, format);                                                                                       \
-    const auto name = va_arg(arguments, type);                                                                         \
-    va_end(arguments)
-// NOLINTEND(bugprone-macro-parentheses)
-
-int WorkloadChannel::sendCommand(char* answer, const char* format, ...)
+/**
+ * Counts \a command and returns the name of its parameter: "source" of "synccard source d01", "active_mode" of "zorvan2
+ * get synccard active_mode".
+ */
+std::string_view WorkloadChannel::readParameter(std::string_view command)
 {
-    ++commands;
-    if (std::strcmp(format, "zorvan2 get synccard active_mode") == 0) {
-        answerText(answer, "zorvan2 get synccard active_mode none");
-        return 0;
-    }
-    FIRST_ARGUMENT(const char*, mode);
-    answerText(answer, "zorvan2 get synccard mode_desc \"Mode ");
-    std::strcat(answer, mode); // NOLINT(clang-analyzer-security.insecureAPI.strcpy): as short as getParameter() made it
-    std::strcat(answer, "\""); // NOLINT(clang-analyzer-security.insecureAPI.strcpy)
-    return 0;
+    ++reads;
+    const std::string_view raw = "zorvan2 get ";
+    if (command.substr(0, raw.size()) == raw)
+        command.remove_prefix(raw.size());
+    command.remove_prefix(command.find(' ') + 1);
+    return command.substr(0, command.find(' '));
 }
 
-int WorkloadChannel::getParameter(char* answer, const char* format, ...)
+int WorkloadChannel::answerText(char* answer, const char* command)
 {
-    ++commands;
-    const std::string_view command(format);
-    if (command == "synccard output_during_idle d01 ch%2.2d") {
-        FIRST_ARGUMENT(int, channel);
-        answerText(answer, isActiveDuringIdle(channel) ? "yes" : "no");
-    } else if (command == "synccard mode t%02d") {
-        FIRST_ARGUMENT(int, mode);
-        answerNumber(answer, "m", mode, "");
-    } else if (command == "synccard synccard d%02d") {
-        FIRST_ARGUMENT(int, card);
-        answerNumber(answer, "0x0402 10", card, "");
-    } else if (command == "synccard model_desc %s") {
-        answerText(answer, "\"Sync card\"");
-    } else if (command == "synccard source d%2.2d") {
-        answerText(answer, "internal");
-    } else if (command == "synccard output d01") {
-        answerText(answer, "ttl");
-    } else if (command == "synccard input_frequency") {
-        isOtherFrequency = alternates && !isOtherFrequency;
-        answerText(answer, isOtherFrequency ? "ttl 120.000" : "video 59.940");
-    } else {
-        answerText(answer, "yes");
+    const std::string_view parameter = readParameter(command);
+    const char* text = parameter == "input_frequency" ? inputFrequency : "yes";
+    for (const Row& row : table) {
+        if (row.parameter == parameter)
+            text = row.answer;
     }
+    std::strcpy(answer, text); // NOLINT(clang-analyzer-security.insecureAPI.strcpy): the texts of the table
     return 0;
 }
 
 int WorkloadChannel::getParameterInt(int* result, const char* format, ...)
 {
-    ++commands;
-    const std::string_view command(format);
-    if (command == "synccard number_of_synccards")
+    const std::string_view parameter = readParameter(format);
+    if (parameter == "number_of_synccards")
         *result = workload.cards;
-    else if (command == "synccard number_of_modes")
+    else if (parameter == "number_of_modes")
         *result = workload.modes;
-    else if (command == "synccard number_of_channels d01")
-        *result = workload.channels;
     else
-        *result = command == "synccard external_divisor d01" ? divisor : maximumDivisor;
+        *result = parameter == "number_of_channels" ? workload.channels : 1;
     return 0;
 }
 
 int WorkloadChannel::getParameterDouble(double* result, const char* format, ...)
 {
-    ++commands;
-    const std::string_view command(format);
-    if (command == "synccard output_delay d01 ch%2.2d") {
-        FIRST_ARGUMENT(int, channel);
-        *result = delayMilliseconds(channel);
-    } else if (command == "synccard max_output_delay d01") {
-        *result = maximumDelayMilliseconds;
-    } else {
-        *result = command == "synccard internal_frequency d01" ? frequencyHz : maximumFrequencyHz;
-    }
+    *result = readParameter(format).substr(0, 4) == "max_" ? maximumValue : usualValue;
     return 0;
 }
 
-int WorkloadChannel::getParameterBool(bool* result, const char* /*format*/, ...)
+int WorkloadChannel::getParameterBool(bool* result, const char* format, ...)
 {
-    ++commands;
-    *result = true;
+    *result = !readParameter(format).empty();
     return 0;
-}
-
-int WorkloadChannel::setParameter(const char* /*format*/, ...)
-{
-    ++commands;
-    return 0;
-}
-
-void WorkloadChannel::reportError(const char* /*category*/, const char* /*systemTag*/, int /*flag*/,
-                                  const char* /*message*/)
-{
-    ++reports;
 }

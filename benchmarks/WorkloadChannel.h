@@ -1,27 +1,49 @@
 #pragma once
 
 #include "IOManager.h"
-#include "Workload.h"
 
-/** A command channel that takes almost no time: it recognises each command by its format and formats nothing. */
+#include <QStringList>
+
+#include <string_view>
+
+/** How many channels, modes and cards a controller offers. Both dialogs of a comparison show the same workload. */
+struct Workload
+{
+    int channels;
+    int modes;
+    int cards;
+
+    QString name() const { return QString("%1/%2/%3").arg(channels).arg(modes).arg(cards); }
+};
+
+// The values that the controller answers and both dialogs show: Hz for the frequency, milliseconds for each delay.
+constexpr double usualValue = 120.25;
+constexpr double maximumValue = 300.0;
+
+/**
+ * A command channel that takes almost no time. It answers by the name of the parameter and formats nothing, so all
+ * channels, modes and cards have the same values. A parameter that it does not know is "yes", true, 1 or 120.25.
+ */
 class WorkloadChannel : public IOManager
 {
 public:
     explicit WorkloadChannel(const Workload& workload) : workload(workload) {}
 
-    int sendCommand(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int getParameter(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int getParameterInt(int* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int getParameterDouble(double* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int getParameterBool(bool* result, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
-    int setParameter(const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
-    void reportError(const char* category, const char* systemTag, int flag, const char* message) override;
+    int sendCommand(char* answer, const char* format, ...) override { return answerText(answer, format); }
+    int getParameter(char* answer, const char* format, ...) override { return answerText(answer, format); }
+    int getParameterInt(int* result, const char* format, ...) override;
+    int getParameterDouble(double* result, const char* format, ...) override;
+    int getParameterBool(bool* result, const char* format, ...) override;
+    /** Fails, so that the module reports the write: an opening writes nothing. */
+    int setParameter(const char* /*format*/, ...) override { return -1; }
+    void reportError(const char*, const char*, int, const char* message) override { reports.append(message); }
 
-    Workload workload;
-    int commands = 0;        // number of commands so far
-    int reports = 0;         // number of error reports so far; a single one makes the comparison invalid
-    bool alternates = false; // whether each poll reads another frequency than the poll before
+    const Workload workload;
+    const char* inputFrequency = "video 59.940"; // the answer to "synccard input_frequency"
+    int reads = 0;                               // the number of commands read so far
+    QStringList reports;
 
 private:
-    bool isOtherFrequency = false;
+    int answerText(char* answer, const char* command);
+    std::string_view readParameter(std::string_view command);
 };

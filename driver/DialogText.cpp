@@ -9,6 +9,12 @@
 
 namespace {
 
+/** "{tip}", or an empty string without a tool tip. */
+QString tipText(const QString& tip)
+{
+    return tip.isEmpty() ? QString() : '{' + tip + '}';
+}
+
 QString cellText(const QTableWidgetItem* item)
 {
     if (!item)
@@ -17,7 +23,7 @@ QString cellText(const QTableWidgetItem* item)
     const QVariant check = item->data(Qt::CheckStateRole);
     return item->text() + (data.isValid() ? '<' + data.toString() + '>' : QString())
            + (check.isValid() ? (check.toInt() == Qt::Checked ? "x" : "o") : "")
-           + (item->flags() & Qt::ItemIsEnabled ? "" : "~");
+           + (item->flags() & Qt::ItemIsEnabled ? "" : "~") + tipText(item->toolTip());
 }
 
 QString rowsText(const QTableWidget* table)
@@ -36,7 +42,8 @@ QString itemsText(const QComboBox* box)
 {
     QStringList items;
     for (int i = 0; i < box->count(); ++i)
-        items.append((i == box->currentIndex() ? "*" : "") + box->itemText(i) + '=' + box->itemData(i).toString());
+        items.append((i == box->currentIndex() ? "*" : "") + box->itemText(i) + '=' + box->itemData(i).toString()
+                     + tipText(box->itemData(i, Qt::ToolTipRole).toString()));
     return items.join('|');
 }
 
@@ -60,7 +67,8 @@ QString textOfWidget(const QWidget* widget)
 {
     if (!widget)
         return "no such widget";
-    return contentText(widget) + (widget->isEnabled() ? "" : " off") + (widget->isHidden() ? " hidden" : "");
+    return contentText(widget) + (widget->isEnabled() ? "" : " off") + (widget->isHidden() ? " hidden" : "")
+           + (widget->toolTip().isEmpty() ? "" : ' ' + tipText(widget->toolTip()));
 }
 
 QStringList textOfDialog(const QDialog* dialog)

@@ -76,6 +76,11 @@ bool HostOptions::parse(int& argc, char** argv)
     return checkTexts() && checkReplay() && readController() && readProtocol() && readFaults() && readLanguage();
 }
 
+bool HostOptions::checkRest(int argc, char** argv)
+{
+    return argc == 1 || refuse(QString("Unknown option '%1'. See --help.").arg(QString::fromLocal8Bit(argv[1])));
+}
+
 /** Lists name and description of each named controller, unless one of their files is broken. */
 bool HostOptions::listControllers()
 {

@@ -22,6 +22,8 @@ public:
      * 0 after --help, --version or --list, 2 after a mistake. All four are printed.
      */
     bool parse(int& argc, char** argv);
+    /** Returns like parse(), false if QApplication has left an argument in \a argv, because it does not know it. */
+    bool checkRest(int argc, char** argv);
     int status() const { return itsStatus; }
 
     QString value(const QString& option) const { return parser.value(option); }

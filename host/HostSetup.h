@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ControllerFile.h"
+#include "NamedController.h"
 
 #include <QLocale>
 #include <QRegularExpression>

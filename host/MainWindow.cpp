@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "ControllerFile.h"
 #include "DevelopmentHost.h"
 
 #include <QApplication>
@@ -96,7 +97,7 @@ void MainWindow::createControllerMenu()
     add(menu, "&Save as...", [this] {
         auto* dialog = new QFileDialog(this, "Save the controller", "controller.txt", fileFilter);
         return askForFile(dialog, QFileDialog::AcceptSave,
-                          [this](const QString& file) { return saveController(file, host->controller().table()); });
+                          [this](const QString& file) { return saveTable(file, host->controller().table()); });
     });
     menu->addSeparator();
     menu->setToolTipsVisible(true);

@@ -20,8 +20,8 @@ int main(int argc, char* argv[])
 #endif
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    if (argc > 1)
-        return fail(QString("Unknown option '%1'. See --help.").arg(QString::fromLocal8Bit(argv[1])));
+    if (!options.checkRest(argc, argv))
+        return options.status();
     QApplication::setWindowIcon(QApplication::style()->standardIcon(QStyle::SP_ComputerIcon));
     DevelopmentHost host(options.setup());
     MainWindow window(&host);

@@ -22,11 +22,11 @@ cd /
 list=$("$prefix/bin/synccard-host" --list)
 [ "$(cut -d ' ' -f 1 <<<"$list")" = "$known" ] || fail "expected the controllers $known, found $list"
 grep -qxF 'locked           The configuration is locked' <<<"$list" || fail "expected locked in a row, found $list"
-broken=$prefix/share/synccard-host/controllers/broken.json
-echo '{"description": "a", "locked": 1}' >"$broken"
+broken=$prefix/share/synccard-host/controllers/broken.txt
+echo 'config is_changeable' >"$broken"
 status=0
 said=$("$prefix/bin/synccard-host" --list 2>&1) || status=$?
-[ "$status $said" = "2 synccard-host: $broken: locked: true or false is expected" ] || fail "$status $said"
+[ "$status $said" = "2 synccard-host: $broken:1: \"COMMAND = ANSWER\" is expected" ] || fail "$status $said"
 
 "$prefix/bin/synccard-host" --controller locked --language de &
 host=$!

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: recorded_tour.sh TOUR_PROGRAM FOLDER
 # ./dev records a tour where it is called. The recording replays to its end; with a line edited, one missing, one too
-# many, or damaged, the tour says where it stops.
+# many, or damaged, the tour says where it stops. On each named controller the tour ends with status 0.
 set -euo pipefail
 tour=$1 folder=$2
 rm -rf "$folder"
@@ -28,7 +28,7 @@ ln -s "$tour" "$folder/repository/build/dev/bin/synccard-tour"
 (cd "$folder" && bash repository/dev tour --record whole.txt --pictures pictures >/dev/null)
 ls "$folder/pictures/workbench.png" >/dev/null
 expect "$whole" 0 ""
-expect "a delay that fails" 1 "expected cards 1, channels 1, delay: 1.234, found cards 1, channels 1, delay: 0" \
+expect "a delay that fails" 1 "expected synccard output_delay d01 ch01 = 1.234, found synccard output_delay d01 ch01 = 0" \
     --fail 'output_delay d01 ch01 1'
 sed 's/d01 61\.000000/d01 62.000000/' "$whole" >"$folder/edited.txt"
 line=$(grep -n -m1 'd01 62\.000000' "$folder/edited.txt" | cut -d: -f1)
@@ -43,3 +43,12 @@ expect "a full disk" 2 "/dev/full: No space left on device" --record /dev/full
 # A file that must not grow beyond a kilobyte ends with its last whole line, and replays.
 (trap '' XFSZ && ulimit -f 1 && expect "a full disk later" 1 "cut.txt: File too large" --record "$folder/cut.txt")
 expect "$folder/cut.txt" 1 "cut.txt: expected the end of the recording, found"
+
+names=$("$tour" --list | cut -d ' ' -f 1)
+for name in $names; do
+    recording=$folder/$name.txt
+    expect "$name" 0 "" --controller "$name" --record "$recording"
+    # The first two lines name the format and the controller.
+    [ "$(wc -l <"$recording")" -gt 2 ] || { echo "recorded_tour: $name: no command was asked" >&2; exit 1; }
+done
+expect "$folder/nonsense.txt" 0 "" --controller nonsense --replay "$folder/nonsense.txt"

@@ -3,6 +3,7 @@
 #include "ControllerText.h"
 #include "Faults.h"
 #include "Files.h"
+#include "NamedController.h"
 #include "Recording.h"
 #include "SimulatedController.h"
 #include "WireText.h"
@@ -54,9 +55,9 @@ void TestController::comparesVersions()
 
 static ControllerTable full()
 {
-    NamedController controller;
-    const QString problem = readController("full", &controller);
-    return problem.isEmpty() ? controller.table : ControllerTable();
+    ControllerTable table;
+    const QString problem = readTable("full", {}, &table);
+    return problem.isEmpty() ? table : ControllerTable();
 }
 
 /** Carries out \a command, such as "get synccard available". Returns "ok", "failed", or the value of a read. */
@@ -120,7 +121,7 @@ void TestController::savesControllers()
     controllers.append({"odd", odd});
     for (const NamedController& saved : qAsConst(controllers)) {
         NamedController read;
-        QCOMPARE(saveController(file, saved.table), QString());
+        QCOMPARE(saveTable(file, saved.table), QString());
         QCOMPARE(readController(file, &read), QString());
         QCOMPARE(written(read.table), written(saved.table));
         QCOMPARE(read.table.rows().size(), saved.table.rows().size());
@@ -136,7 +137,7 @@ void TestController::savesControllers()
     const rlimit small = {100, limit.rlim_max};
     auto* const previous = std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &small);
-    const QString problem = saveController(file, full());
+    const QString problem = saveTable(file, full());
     setrlimit(RLIMIT_FSIZE, &limit);
     std::signal(SIGXFSZ, previous);
     QCOMPARE(problem, file + ": File too large");

@@ -115,8 +115,8 @@ void actAtRandom(const LoadedModule& module, GarbageLink* garbage)
         selector->setCurrentIndex(garbage->random.bounded(selector->count()));
     module.find<QDoubleSpinBox>("doubleSpinBox_frequency")->stepUp();
     QMetaObject::invokeMethod(module.dialog(), "poll_input_frequency");
-    if (garbage->random.bounded(50) == 0)
-        return module.dialog()->done(QDialog::Rejected); // as a host may end it
+    if (garbage->random.bounded(50) == 0) // as a host may end it
+        return garbage->random.bounded(2) == 0 ? module.dialog()->hide() : module.dialog()->done(QDialog::Rejected);
     if (garbage->random.bounded(3) == 0)
         QMetaObject::invokeMethod(module.dialog(), module.see("pushButton_Ok").isEmpty() ? "accept" : "reject");
 }

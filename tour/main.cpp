@@ -20,7 +20,8 @@ void noteWarning(const QString& message)
 
 int main(int argc, char* argv[])
 {
-    HostOptions options("Drives the synccard dialog like a user, in front of a simulated controller.",
+    HostOptions options("Drives the synccard dialog like a user: walks through it on the controller \"full\", opens it "
+                        "once on any other.",
                         HostOptions::Compared);
     options.addOption({"pictures", "Saves a picture of each state into <folder>.", "folder"});
     if (!options.parse(argc, argv))
@@ -30,8 +31,9 @@ int main(int argc, char* argv[])
         return fail("--pictures " + pictures + ": the folder cannot be made");
 
     takeWarnings(noteWarning);
-    int programNameOnly = 1;
-    const QApplication application(programNameOnly, argv);
+    const QApplication application(argc, argv);
+    if (!options.checkRest(argc, argv))
+        return options.status();
     const int status = Tour(options.setup(), pictures).run();
     return status == 0 && hasWarned ? 1 : status;
 }

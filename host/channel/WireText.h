@@ -5,7 +5,8 @@
 #include <QStringList>
 
 // The texts of commands and answers are Latin-1. Recordings and controller files are UTF-8, one line per text. A line
-// break is written \n, a carriage return \r, a backslash \\, an arrow \->, any other control character by its code, as in \x09.
+// break is written \n, a carriage return \r, a backslash \\, an arrow \->, any other control character by its code, as
+// in \x09.
 
 /** Returns \a text as it stands in a file. */
 QString escaped(const QByteArray& text);

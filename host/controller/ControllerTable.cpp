@@ -26,9 +26,3 @@ void ControllerTable::remove(const QByteArray& command)
     for (int i = 0; i < list.size(); ++i)
         positions[list.at(i).command] = i;
 }
-
-void ControllerTable::forgetLines()
-{
-    for (AnswerRow& row : list)
-        row.line = 0;
-}

@@ -12,7 +12,7 @@ struct AnswerRow
     QByteArray command;
     QByteArray answer;
     bool isFailure = false; // The command fails.
-    int line = 0;           // of the file that gave the row, from 1; 0 if another file or a write did
+    int line = 0;           // in the file that gave the row, from 1
 };
 
 /** A simulated controller: its identity, and its answers in a fixed order, one row per command. A plain value. */
@@ -29,8 +29,6 @@ public:
     void insert(const AnswerRow& row);
     /** Removes the row of \a command, if there is one. */
     void remove(const QByteArray& command);
-    /** Makes all rows look as if another file had given them. */
-    void forgetLines();
 
 private:
     QVector<AnswerRow> list;

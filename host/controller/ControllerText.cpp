@@ -6,135 +6,112 @@
 
 #include <QRegularExpression>
 
-namespace {
-
-constexpr int maximumRows = 20000;
-constexpr char failure[] = "!";
-
-struct Line
-{
-    QString command;
-    QString answer;
-};
-
-/** Appends to \a rows the lines that \a line stands for. A range in the answer counts along with the command's. */
-QString expand(const Line& line, QVector<Line>* rows)
-{
-    static const QRegularExpression range(R"(\[(\d{1,9})-(\d{1,9})\])");
-    const QRegularExpressionMatch match = range.match(line.command);
-    if (!match.hasMatch()) {
-        rows->append(line);
-        return {};
-    }
-    const int last = match.captured(2).toInt();
-    int number = match.captured(1).toInt();
-    if (number > last)
-        return "the range " + match.captured() + " runs backward";
-    for (; number <= last; ++number) {
-        const QString digits = QString("%1").arg(number, match.capturedLength(1), 10, QChar('0'));
-        Line next = line;
-        next.command.replace(match.capturedStart(), match.capturedLength(), digits);
-        next.answer.replace(match.captured(), digits);
-        QString fault = expand(next, rows);
-        if (fault.isEmpty() && rows->size() > maximumRows)
-            fault = QString("more than %1 rows").arg(maximumRows);
-        if (!fault.isEmpty())
-            return fault;
-    }
-    return {};
-}
-
-} // namespace
+static constexpr int maximumRows = 20000;
+static constexpr char failure[] = "!";
 
 QString ControllerText::read(const QString& line, int number)
 {
+    fault = characterFault(line);
     const QString text = line.trimmed();
-    QString fault = characterFault(line);
     if (!fault.isEmpty() || text.isEmpty() || text.startsWith('#'))
         return fault;
-    fault = textFault(text);
     const int separator = text.indexOf('=');
-    if (fault.isEmpty() && separator < 0)
-        fault = "\"COMMAND = ANSWER\" is expected";
-    if (!fault.isEmpty())
-        return fault;
+    fault = textFault(text);
+    demand(separator >= 0, "\"COMMAND = ANSWER\" is expected");
     const QString left = text.left(separator).trimmed();
     const QString right = text.mid(separator + 1).trimmed();
-    const bool isHeader = QStringList{"description", "from", "protocol", "model"}.contains(left);
-    return isHeader ? readHeader(left, right) : readAnswer(left, right, number);
-}
-
-QString ControllerText::readHeader(const QString& key, const QString& value)
-{
-    const bool isFirst = !seen.contains(key);
-    seen.insert(key);
-    if (!isFirst)
-        return '"' + key + "\" stands here twice";
-    if (key == "protocol")
-        return readProtocol(value, &table->identity.protocol);
-    if (key == "from")
-        return readBase(value);
-    const QString text = QString::fromLatin1(unescaped(value));
-    (key == "model" ? table->identity.model : table->description) = text;
-    return {};
-}
-
-/** Begins with another table. What has been read of the header before stays. */
-QString ControllerText::readBase(const QString& name)
-{
-    if (files.isEmpty() || hasAnswers)
-        return "\"from\" stands only in a file, before all answers";
-    ControllerTable base;
-    const QString fault = readTable(name, files, &base);
     if (!fault.isEmpty())
-        return "from " + fault;
-    base.forgetLines();
+        return fault;
+    if (QStringList{"description", "from", "protocol", "model"}.contains(left))
+        readHeader(left, right);
+    else
+        expand(left, right, number);
+    return fault;
+}
+
+void ControllerText::readHeader(const QString& key, const QString& value)
+{
+    demandFirst(key.toLatin1());
+    if (key == "protocol")
+        fault += readProtocol(value, &table->identity.protocol);
+    else if (key == "from")
+        readBase(value);
+    else
+        (key == "model" ? table->identity.model : table->description) = QString::fromLatin1(unescaped(value));
+}
+
+/** Begins with another table. The header lines before stay. */
+void ControllerText::readBase(const QString& name)
+{
+    ControllerTable base;
+    demand(!files.isEmpty() && !hasAnswers, "\"from\" stands only in a file, before all answers");
+    const QString problem = fault.isEmpty() ? readTable(name, files, &base) : fault;
+    demand(problem.isEmpty(), "from " + problem);
     base.description = table->description;
     if (seen.contains("protocol"))
         base.identity.protocol = table->identity.protocol;
     if (seen.contains("model"))
         base.identity.model = table->identity.model;
     *table = base;
-    return {};
 }
 
-QString ControllerText::readAnswer(const QString& command, const QString& answer, int number)
+/** Reads a line, or one line for each number of a range. A range in the answer counts along with the command's. */
+void ControllerText::expand(const QString& command, const QString& answer, int number)
 {
-    hasAnswers = true;
-    QVector<Line> lines;
-    QString fault = expand({command, answer}, &lines);
-    for (const Line& line : qAsConst(lines)) {
-        const bool isFailure = line.answer == failure;
-        const AnswerRow row = {unescaped(line.command), isFailure ? "" : unescaped(line.answer), isFailure, number};
-        if (fault.isEmpty())
-            fault = commandFault(row.command);
-        if (fault.isEmpty() && row.command.startsWith("set ") && !line.answer.isEmpty() && !row.isFailure)
-            fault = "a write has no answer: leave it empty to accept the write, or refuse it by \"!\"";
-        if (fault.isEmpty() && seen.contains(line.command))
-            fault = '"' + line.command + "\" stands here twice";
-        if (!fault.isEmpty())
-            return fault;
-        seen.insert(line.command);
-        table->insert(row);
+    static const QRegularExpression range(R"(\[(\d{1,9})-(\d{1,9})\])");
+    const QRegularExpressionMatch match = range.match(command);
+    if (!match.hasMatch())
+        return readAnswer(command, answer, number);
+    const int last = match.captured(2).toInt();
+    int entry = match.captured(1).toInt();
+    demand(entry <= last, "the range " + match.captured() + " runs backward");
+    for (; entry <= last && fault.isEmpty(); ++entry) {
+        const QString digits = QString("%1").arg(entry, match.capturedLength(1), 10, QChar('0'));
+        QString next = command;
+        next.replace(match.capturedStart(), match.capturedLength(), digits);
+        expand(next, QString(answer).replace(match.captured(), digits), number);
     }
-    return table->rows().size() > maximumRows ? QString("more than %1 rows").arg(maximumRows) : fault;
+}
+
+void ControllerText::readAnswer(const QString& command, const QString& answer, int number)
+{
+    AnswerRow row = {unescaped(command), unescaped(answer), answer == failure, number};
+    if (row.isFailure)
+        row.answer.clear();
+    const QString problem = commandFault(row.command);
+    demand(problem.isEmpty(), problem);
+    demand(!row.command.startsWith("set ") || row.answer.isEmpty(),
+           "a write has no answer: leave it empty to accept the write, or refuse it by \"!\"");
+    demandFirst(row.command);
+    table->insert(row);
+    hasAnswers = true;
+    demand(table->rows().size() <= maximumRows, QString("more than %1 rows").arg(maximumRows));
+}
+
+/** Keeps the first fault in a line. */
+void ControllerText::demand(bool condition, const QString& otherwise)
+{
+    if (!condition && fault.isEmpty())
+        fault = otherwise;
+}
+
+void ControllerText::demandFirst(const QByteArray& left)
+{
+    demand(!seen.contains(left), '"' + QString::fromLatin1(left) + "\" stands here twice");
+    seen.insert(left);
 }
 
 QString readProtocol(const QString& text, VersionInfo* protocol)
 {
-    VersionInfo read(0, 0, 0);
     bool isVersion = false;
-    read.fromString(text, &isVersion);
-    if (!isVersion || text.contains('-'))
-        return '"' + text + "\" is not a protocol version such as 1.23 or 1.23.0";
-    *protocol = read;
-    return {};
+    if (!text.contains('-'))
+        protocol->fromString(text, &isVersion);
+    return isVersion ? QString() : '"' + text + "\" is not a protocol version such as 1.23 or 1.23.0";
 }
 
 QString changeTable(ControllerTable* table, const QString& lines)
 {
     ControllerTable changed = *table;
-    changed.forgetLines();
     ControllerText text(&changed);
     const QStringList all = linesOf(lines.toUtf8());
     for (int i = 0; i < all.size(); ++i) {

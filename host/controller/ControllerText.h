@@ -6,8 +6,8 @@
 #include <QStringList>
 
 /**
- * Reads the lines of a controller file into a table, one by one. docs/workbench.md describes the format. A line replaces
- * what the table held before, but none may stand twice.
+ * Reads the lines of a controller file into a table, one by one. docs/workbench.md describes the format. A line
+ * replaces what the table held before, but none may stand twice.
  */
 class ControllerText
 {
@@ -19,14 +19,18 @@ public:
     QString read(const QString& line, int number);
 
 private:
-    QString readHeader(const QString& key, const QString& value);
-    QString readBase(const QString& name);
-    QString readAnswer(const QString& command, const QString& answer, int number);
+    void readHeader(const QString& key, const QString& value);
+    void readBase(const QString& name);
+    void readAnswer(const QString& command, const QString& answer, int number);
+    void expand(const QString& command, const QString& answer, int number);
+    void demand(bool condition, const QString& otherwise);
+    void demandFirst(const QByteArray& left);
 
     ControllerTable* table;
     QStringList files;
-    QSet<QString> seen; // the left sides of the lines
+    QSet<QByteArray> seen; // commands, and keys of the header
     bool hasAnswers = false;
+    QString fault; // the first one in the line
 };
 
 /** Reads "1.23" or "1.23.0" into \a protocol. Returns an error message, or an empty string on success. */

@@ -1,6 +1,5 @@
 #include "ControllerVocabulary.h"
 
-#include <QRegularExpression>
 #include <QVector>
 
 #include <algorithm>
@@ -35,21 +34,21 @@ const Parameter parameters[] = {
     {"synccard output_during_idle dNN chNN", 0, 13, Rule::Flag},
 };
 
-/** Matches a command: the parameter, and the rest behind it. */
-QRegularExpression expressionOf(const Parameter& parameter)
+QVector<QByteArrayList> splitForms()
 {
-    QString form = parameter.form;
-    // The last word may contain blanks: it may be an answer that the module passes on, such as a mode's name.
-    form.replace(QRegularExpression("WORD$"), ".*").replace("WORD", "[^ ]*").replace("NN", "\\d+");
-    return QRegularExpression('^' + form + "(?= |$)", QRegularExpression::DotMatchesEverythingOption);
+    QVector<QByteArrayList> forms;
+    for (const Parameter& parameter : parameters)
+        forms.append(QByteArray(parameter.form).split(' '));
+    return forms;
 }
 
-QVector<QRegularExpression> allExpressions()
+/** Returns true if \a word of a command may stand where a form has \a part, such as "d01" for "dNN". */
+bool isPart(const QByteArray& part, const QByteArray& word)
 {
-    QVector<QRegularExpression> expressions;
-    for (const Parameter& parameter : parameters)
-        expressions.append(expressionOf(parameter));
-    return expressions;
+    bool isNumber = false;
+    if (part.endsWith("NN") && word.startsWith(part.chopped(2)))
+        word.mid(part.size() - 2).toUInt(&isNumber);
+    return part == word || part == "WORD" || isNumber;
 }
 
 } // namespace
@@ -57,20 +56,21 @@ QVector<QRegularExpression> allExpressions()
 Request::Request(Operation operation, const QByteArray& command)
     : isRaw(operation == Operation::Send), isSet(operation == Operation::Set || command.startsWith("zorvan2 set "))
 {
-    static const QVector<QRegularExpression> expressions = allExpressions();
-    QString text = QString::fromLatin1(command);
-    static const QRegularExpression verb("^zorvan2 (get|set) ");
-    if (isRaw && !text.contains(verb))
+    static const QVector<QByteArrayList> forms = splitForms();
+    if (isRaw && !isSet && !command.startsWith("zorvan2 get "))
         return;
-    if (isRaw)
-        text.remove(verb);
-    for (int i = 0; i < expressions.size() && !parameter; ++i) {
-        const int length = expressions.at(i).match(text).capturedLength();
-        if (length == 0 || (length < text.size() && !isSet))
+    const QByteArrayList words = command.split(' ').mid(isRaw ? 2 : 0);
+    for (int i = 0; i < forms.size() && !parameter; ++i) {
+        const QByteArrayList& form = forms.at(i);
+        if (words.size() < form.size() || !std::equal(form.begin(), form.end(), words.begin(), isPart))
+            continue;
+        // The last word of a read may contain blanks: it may be an answer that the module passes on.
+        const int size = !isSet && form.last() == "WORD" ? words.size() : form.size();
+        if (size < words.size() && !isSet)
             continue;
         parameter = &parameters[i];
-        name = text.left(length).toLatin1();
-        value = text.mid(length + 1).toLatin1();
+        name = words.mid(0, size).join(' ');
+        value = words.mid(size).join(' ');
     }
 }
 
@@ -81,7 +81,7 @@ QString unknown(const QByteArray& name, const QByteArrayList& known)
     };
     const auto isLess = [&](const QByteArray& a, const QByteArray& b) { return alike(a) < alike(b); };
     const QByteArray nearest = *std::max_element(known.begin(), known.end(), isLess);
-    return QString("\"%1\" is unknown; the nearest is \"%2\"").arg(QString::fromLatin1(name), QString(nearest));
+    return QString(R"("%1" is unknown; the nearest is "%2")").arg(QString::fromLatin1(name), QString(nearest));
 }
 
 QString commandFault(const QByteArray& command)

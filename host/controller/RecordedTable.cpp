@@ -30,9 +30,9 @@ QString readRecordedTable(const QString& file, ControllerTable* table)
 {
     QVector<RecordedLine> lines;
     QString problem = readRecording(file, &lines);
-    NamedController full;
+    ControllerTable full;
     if (problem.isEmpty())
-        problem = readController("full", &full);
+        problem = readTable("full", {}, &full);
     if (!problem.isEmpty())
         return problem;
     readConnection(lines.takeFirst().text, &table->identity);
@@ -50,7 +50,7 @@ QString readRecordedTable(const QString& file, ControllerTable* table)
             ++unknownCommands;
     }
     const int recorded = table->rows().size();
-    for (const AnswerRow& row : full.table.rows()) {
+    for (const AnswerRow& row : full.rows()) {
         if (!table->find(row.command))
             table->insert({row.command, row.answer, row.isFailure});
     }

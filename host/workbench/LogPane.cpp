@@ -39,9 +39,12 @@ LogPane::LogPane(DevelopmentHost* host)
     connect(&host->channel(), &ControllerChannel::executed, this, &LogPane::addCommand);
     connect(&host->channel(), &ControllerChannel::reported, this,
             [this](auto& category, auto& tag, int flag, auto& message) {
-                addRow(
-                    {"report", escaped(message.toLatin1()), QString("%1 %2 %3").arg(category, tag).arg(flag), {}, {}},
-                    true);
+                addRow({"report",
+                        escaped(message.toLatin1()),
+                        QString("%1 %2 %3").arg(category, tag, QString::number(flag)),
+                        {},
+                        {}},
+                       true);
             });
     connect(host, &DevelopmentHost::noted, this, [this](auto& text) { addRow({"note", text, {}, {}, {}}, true); });
     summing.setSingleShot(true);

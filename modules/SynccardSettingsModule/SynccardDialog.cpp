@@ -6,7 +6,6 @@
 #include "reporterror.h"
 
 #include <QPointer>
-#include <QTimer>
 
 namespace {
 
@@ -26,9 +25,9 @@ SynccardDialog::SynccardDialog(IOManager* cmd, QWidget* p, BackendVersions* bv)
     timer = new QTimer;
     timer->setInterval(pollIntervalMilliseconds);
     connect(timer, &QTimer::timeout, this, &SynccardDialog::poll_input_frequency);
-    // A host may also end the dialog with done(), which calls neither accept() nor reject().
-    connect(this, &QDialog::finished, timer, &QTimer::stop);
-    connect(this, &QDialog::finished, this, &SynccardDialog::noteClosed);
+    waitTimer.setSingleShot(true);
+    connect(&waitTimer, &QTimer::timeout, this, &SynccardDialog::carryOutWaiting);
+    takeWheelWithFocusAlone();
     setup_tableWidget_synccards();
     setup_tableWidget_channels();
     showDetails(false);
@@ -39,26 +38,44 @@ SynccardDialog::~SynccardDialog()
     delete timer;
 }
 
+/** A wheel that is meant for the window would otherwise change a control that happens to lie under the pointer. */
+void SynccardDialog::takeWheelWithFocusAlone()
+{
+    const QList<QWidget*> controls = {comboBox_modes, comboBox_source, comboBox_output, doubleSpinBox_frequency,
+                                      spinBox_externalDivisor};
+    for (QWidget* control : controls) {
+        control->setFocusPolicy(Qt::StrongFocus); // WheelFocus gives the focus before the filter sees the wheel
+        control->installEventFilter(this);
+    }
+}
+
+bool SynccardDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* control = qobject_cast<QWidget*>(watched);
+    if (event->type() != QEvent::Wheel || !control || control->hasFocus())
+        return QDialog::eventFilter(watched, event);
+    event->ignore();
+    return true;
+}
+
 int SynccardDialog::update_and_exec()
 {
     if (!beginOpening())
         return -1;
     m_is_config_locked = is_config_locked();
-    if (m_is_config_locked)
-        lockEditing();
-    else
-        setWindowIcon(m_parent ? m_parent->windowIcon() : QIcon());
+    const QIcon icon = m_parent ? m_parent->windowIcon() : QIcon();
+    setWindowIcon(m_is_config_locked ? m_icon_lock : icon);
     bSynccardAvailable = isSynccardAvailable();
+    disableDialog(!bSynccardAvailable);
     if (!bSynccardAvailable)
-        return exec_without_synccard();
+        return run();
     bSomethingChanged = false;
-    disableDialog(false);
     show_frame_syncinput_if_necessary();
     const QPointer<SynccardDialog> self(this);
     const int result =
         isProtocolAtLeast(0, 13) ? update_and_exec_prot_version_0_13() : update_and_exec_prot_version_0_8();
-    if (self && step == Opening) // a failed read stopped it
-        step = NoStep;
+    if (self)
+        endStep(); // a failed read has left the opening under way
     return result;
 }
 
@@ -66,27 +83,11 @@ int SynccardDialog::update_and_exec_prot_version_0_13()
 {
     if (!update_tableWidget_synccards())
         return -1;
-    bUserAction = false;
     const int modesResult = update_comboBox_modes();
     if (modesResult != 0)
         return modesResult;
     updateControlsDirectSettings();
     storePreviousSettings();
-    bUserAction = true;
-    bSomethingChanged = false;
-    return exec_with_poll();
-}
-
-int SynccardDialog::exec_without_synccard()
-{
-    disableDialog(true);
-    return run();
-}
-
-/** Both protocol paths end here. No code may follow exec(): its parent may have deleted the dialog by then. */
-int SynccardDialog::exec_with_poll()
-{
-    timer->start();
     updateWidthContols();
     return run();
 }
@@ -113,16 +114,10 @@ bool SynccardDialog::is_config_locked()
     return answer.text() == QLatin1String("no");
 }
 
-void SynccardDialog::lockEditing()
+/** Enables or disables an editing control. A locked configuration keeps it disabled. */
+void SynccardDialog::setEditable(QWidget* control, bool bEnable) const
 {
-    setWindowIcon(m_icon_lock);
-    comboBox_modes->setDisabled(true);
-    comboBox_source->setDisabled(true);
-    comboBox_output->setDisabled(true);
-    doubleSpinBox_frequency->setDisabled(true);
-    spinBox_externalDivisor->setDisabled(true);
-    tableWidget_channels->setDisabled(true);
-    pushButton_Ok->setDisabled(true);
+    control->setEnabled(bEnable && !m_is_config_locked);
 }
 
 void SynccardDialog::disableDialog(bool bDisable)
@@ -136,10 +131,8 @@ void SynccardDialog::disableDialog(bool bDisable)
     label_inputFrequency1->setDisabled(bDisable);
     label_inputFrequency->setDisabled(bDisable);
     label_supportedSynccardModes->setDisabled(bDisable);
-    if (!m_is_config_locked) {
-        comboBox_modes->setDisabled(bDisable);
-        pushButton_Ok->setDisabled(bDisable);
-    }
+    setEditable(comboBox_modes, !bDisable);
+    setEditable(pushButton_Ok, !bDisable);
     disableDetails(bDisable);
 }
 
@@ -147,13 +140,11 @@ void SynccardDialog::disableDetails(bool bDisable)
 {
     label_source->setDisabled(bDisable);
     label_output->setDisabled(bDisable);
-    if (!m_is_config_locked) {
-        comboBox_source->setDisabled(bDisable);
-        comboBox_output->setDisabled(bDisable);
-        doubleSpinBox_frequency->setDisabled(bDisable);
-        spinBox_externalDivisor->setDisabled(bDisable);
-        tableWidget_channels->setDisabled(bDisable);
-    }
+    setEditable(comboBox_source, !bDisable);
+    setEditable(comboBox_output, !bDisable);
+    setEditable(doubleSpinBox_frequency, !bDisable);
+    setEditable(spinBox_externalDivisor, !bDisable);
+    setEditable(tableWidget_channels, !bDisable);
     label_frequency->setDisabled(bDisable);
     label_externalDivisor->setDisabled(bDisable);
 }

@@ -6,10 +6,12 @@
 
 #include <QDialog>
 #include <QIcon>
+#include <QTimer>
+
+#include <optional>
 
 class BackendVersions;
 class IOManager;
-class QTimer;
 
 /**
  * The modal "Synccard Settings" dialog. At every opening it reads the synccard settings from the controller and shows
@@ -27,7 +29,8 @@ public:
 public slots:
     /**
      * Fills the dialog from the controller and runs it modally. Returns QDialog::Accepted or QDialog::Rejected. Returns
-     * -1, without running the dialog, when it is already open or a read fails that the dialog cannot do without.
+     * -1, without running the dialog, while an earlier call or another step is under way, or when a read fails that the
+     * dialog cannot do without.
      */
     int update_and_exec();
 
@@ -51,6 +54,8 @@ private:
     enum CardColumn { ModelColumn, SerialColumn, CardColumnCount };
 
     // Entry and switches: SynccardDialog.cpp
+    void takeWheelWithFocusAlone();
+    bool eventFilter(QObject* watched, QEvent* event) override;
     int update_and_exec_prot_version_0_13();
     bool isSynccardAvailable();
     bool is_config_locked();
@@ -58,9 +63,7 @@ private:
     void disableDetails(bool bDisable);
     void showDetails(bool bShow);
     void updateWidthContols();
-    void lockEditing();
-    int exec_without_synccard();
-    int exec_with_poll();
+    void setEditable(QWidget* control, bool bEnable) const;
     /** Whether the controller speaks protocol \a major.\a minor or later; false without versions. */
     bool isProtocolAtLeast(int major, int minor) const;
     bool hasCurrentCard() const;
@@ -111,28 +114,22 @@ private:
 
     // Leaving: SynccardDialog_leave.cpp
     void storePreviousSettings();
-    void startLeaving();
     bool applyMode();
     bool warnOfFailedChange();
     void restorePreviousSettings();
     bool restoreSource(const QString& source);
 
     // One step at a time: SynccardDialog_steps.cpp
-    enum Step {
-        NoStep,
-        Opening, // reads, up to its exec()
-        Working, // a poll, a new source, or an exit
-        Waiting, // what waits is about to be carried out
-    };
     bool beginOpening();
+    int run();
     bool beginStep();
-    void endStep();
+    bool beginSource();
     bool beginExit(DialogCode exit);
+    void endStep();
     void endExit(DialogCode exit);
     void carryOutWaiting();
-    void noteClosed();
-    void forgetWaiting();
-    int run();
+    void hideEvent(QHideEvent* event) override;
+    void stopInput();
 
     QTimer* timer = nullptr;
     IOManager* cm = nullptr;
@@ -140,16 +137,16 @@ private:
     QWidget* m_parent = nullptr;
     bool bSynccardAvailable = false;
     DoubleSpinboxDelegate doubleSpinboxDelegate;
-    bool bUserAction = false;
+    bool bUserAction = false; // from the exec() of an opening until an exit begins or the dialog is hidden
     bool bSomethingChanged = false;
     SynccardList synccards;
     SynccardList previousSettings;
+    QString sSentSource; // last sent since the snapshot was taken, or that of the snapshot
     bool m_is_config_locked = false;
     QIcon m_icon_lock;
-    Step step = NoStep;
-    bool bSourceWaits = false;
-    bool bExitWaits = false;
-    DialogCode waitingExit = Rejected;
-    bool bClosed = false;    // since the exit under way began
+    bool bBusy = false;      // a step is under way
     bool bExecuting = false; // exec() has not returned yet
+    bool bSourceWaits = false;
+    std::optional<DialogCode> waitingExit;
+    QTimer waitTimer; // carries out what waits
 };

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Results of saveDirectSettings(); 5 and 6 are not used. */
+/** Results of saveDirectSettings(). Its caller only asks for Saved. The other numbers, without 5 and 6, are agreed. */
 enum SaveResult {
     Saved = 0,
     DirectSettingsFailed = 1,
@@ -128,8 +128,10 @@ void SynccardDialog::saveChannels(const Synccard& card)
     }
 }
 
+/** A failed write counts as sent, too: the controller may have taken the source nevertheless. */
 int SynccardDialog::setSourceToHub(const QString& source)
 {
+    sSentSource = source;
     if (cm->setParameter("synccard source d01 %s", source.toLatin1().constData()) != 0) {
         reportError(cm, QStringLiteral("Error: Unable to set Synccard source"));
         return -1;

@@ -7,6 +7,7 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <QtNumeric>
 
 namespace {
 
@@ -17,15 +18,9 @@ constexpr int channelColumnWidth = 110;        // pixels
 constexpr int delayColumnWidth = 110;          // pixels
 constexpr double defaultMaximumDelayMilliseconds = 300.0;
 
-/** Like isRead(), for a delay that must stay finite when it is converted to microseconds. */
-bool isDelayRead(int result, const double& milliseconds)
+double microseconds(double milliseconds)
 {
-    return isRead(result, milliseconds) && qIsFinite(milliseconds * Channel::microsecondsPerMillisecond);
-}
-
-QString microseconds(double milliseconds, int decimals)
-{
-    return QString::number(milliseconds * Channel::microsecondsPerMillisecond, 'f', decimals);
+    return milliseconds * Channel::microsecondsPerMillisecond;
 }
 
 } // namespace
@@ -35,8 +30,7 @@ void SynccardDialog::update_comboBox_output()
     comboBox_output->clear();
     const bool hasChoice = isProtocolAtLeast(1, 23) && offer_outputs() > 1;
     label_output->setEnabled(hasChoice);
-    if (!hasChoice || !m_is_config_locked)
-        comboBox_output->setEnabled(hasChoice);
+    setEditable(comboBox_output, hasChoice);
     if (!hasChoice)
         return;
     TextAnswer current;
@@ -74,7 +68,6 @@ void SynccardDialog::setup_tableWidget_channels()
     tableWidget_channels->setColumnCount(ChannelColumnCount);
     tableWidget_channels->horizontalHeader()->resizeSection(ChannelColumn, initialChannelColumnWidth);
     tableWidget_channels->horizontalHeader()->setStretchLastSection(true);
-    tableWidget_channels->setRowCount(0);
     tableWidget_channels->setHorizontalHeaderLabels(
         {tr("Channel"), tr("Delay [us]"), tr("Active during idle"), tr("Max delay")});
     tableWidget_channels->verticalHeader()->setDefaultSectionSize(defaultRowHeight);
@@ -100,7 +93,8 @@ void SynccardDialog::update_tableWidget_channels()
         channels = 0;
     }
     double maximumDelay = defaultMaximumDelayMilliseconds;
-    if (!isDelayRead(cm->getParameterDouble(&maximumDelay, "synccard max_output_delay d01"), maximumDelay)) {
+    if (cm->getParameterDouble(&maximumDelay, "synccard max_output_delay d01") != 0
+        || !qIsFinite(microseconds(maximumDelay))) {
         reportError(cm, QStringLiteral("Error: Unable to get max output delay from synccard 1"));
         maximumDelay = defaultMaximumDelayMilliseconds;
     }
@@ -108,7 +102,7 @@ void SynccardDialog::update_tableWidget_channels()
     const bool hasFixedIdle = card && card->data(Qt::UserRole).toString() == QLatin1String("0x0301");
     const Qt::ItemFlags idleFlags =
         hasFixedIdle ? Qt::ItemFlags(Qt::ItemIsUserCheckable) : Qt::ItemIsUserCheckable | Qt::ItemIsEnabled;
-    const QString maximumText = microseconds(maximumDelay, 1);
+    const QString maximumText = QString::number(microseconds(maximumDelay), 'f', 1);
     // Each row would signal four cell changes that nobody needs.
     const QSignalBlocker blocker(tableWidget_channels);
     tableWidget_channels->setRowCount(boundedCount(channels));
@@ -122,7 +116,7 @@ void SynccardDialog::update_tableWidget_channels()
 void SynccardDialog::show_channel(int row, const QString& maximumDelay, Qt::ItemFlags idleFlags)
 {
     const int channel = row + 1;
-    auto* delayItem = new QTableWidgetItem(microseconds(read_delay(channel), 0));
+    auto* delayItem = new QTableWidgetItem(QString::number(microseconds(read_delay(channel)), 'f', 0));
     delayItem->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* idleItem = new QTableWidgetItem;
     idleItem->setFlags(idleFlags);
@@ -141,7 +135,8 @@ void SynccardDialog::show_channel(int row, const QString& maximumDelay, Qt::Item
 double SynccardDialog::read_delay(int channel)
 {
     double delay = 0.0;
-    if (isDelayRead(cm->getParameterDouble(&delay, "synccard output_delay d01 ch%2.2d", channel), delay))
+    if (cm->getParameterDouble(&delay, "synccard output_delay d01 ch%2.2d", channel) == 0
+        && qIsFinite(microseconds(delay)))
         return delay;
     reportError(cm, QStringLiteral("Error: Unable to get output delay from synccard 1 channel ch0%2").arg(channel));
     return 0.0;

@@ -7,6 +7,7 @@
 #include "reporterror.h"
 
 #include <QHeaderView>
+#include <QtNumeric>
 
 #include <charconv>
 
@@ -36,15 +37,11 @@ void SynccardDialog::setup_tableWidget_synccards()
     tableWidget_synccards->setColumnCount(CardColumnCount);
     tableWidget_synccards->horizontalHeader()->resizeSection(ModelColumn, initialModelColumnWidth);
     tableWidget_synccards->horizontalHeader()->setStretchLastSection(true);
-    tableWidget_synccards->setRowCount(0);
     tableWidget_synccards->setHorizontalHeaderLabels({tr("Model"), tr("Serial")});
     tableWidget_synccards->verticalHeader()->setDefaultSectionSize(rowHeight);
     tableWidget_synccards->horizontalHeader()->setSectionsClickable(false);
-    tableWidget_synccards->setSelectionMode(QAbstractItemView::NoSelection);
     tableWidget_synccards->setTabKeyNavigation(false); // Tab goes on to the next control
     tableWidget_synccards->setAccessibleName(tableWidget_synccards->whatsThis());
-    tableWidget_synccards->setSelectionBehavior(QAbstractItemView::SelectRows);
-    tableWidget_synccards->setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
 
 /** Lists all cards. Returns false when their number or one of the cards cannot be read. */
@@ -123,6 +120,7 @@ void SynccardDialog::update_comboBox_source()
         else if (answer.isYes())
             comboBox_source->addItem(tr(source.description), QString::fromLatin1(source.keyword));
     }
+    // The current row is the first one during an opening, so this asks card 1, although the row shows the last card.
     TextAnswer current;
     if (cm->getParameter(current.buffer(), "synccard source d%2.2d", tableWidget_synccards->currentRow() + 1) != 0) {
         reportError(cm, QStringLiteral("Error: Unable to get Synccard source"));
@@ -150,18 +148,17 @@ void SynccardDialog::show_internal_frequency()
 {
     double maximum = defaultFrequencyHz;
     if (isProtocolAtLeast(1, 5)
-        && !isRead(cm->getParameterDouble(&maximum, "synccard max_internal_frequency d01"), maximum)) {
+        && (cm->getParameterDouble(&maximum, "synccard max_internal_frequency d01") != 0 || !qIsFinite(maximum))) {
         reportError(cm, QStringLiteral("Error: Unable to get maximum internal frequency from synccard 1"));
         maximum = defaultFrequencyHz;
     }
     double frequency = defaultFrequencyHz;
-    if (!isRead(cm->getParameterDouble(&frequency, "synccard internal_frequency d01"), frequency)) {
+    if (cm->getParameterDouble(&frequency, "synccard internal_frequency d01") != 0 || !qIsFinite(frequency)) {
         reportError(cm, QStringLiteral("Error: Unable to get internal frequency from synccard 1"));
         frequency = defaultFrequencyHz;
     }
     label_frequency->setEnabled(true);
-    if (!m_is_config_locked)
-        doubleSpinBox_frequency->setEnabled(true);
+    setEditable(doubleSpinBox_frequency, true);
     doubleSpinBox_frequency->setMinimum(minimumInternalFrequencyHz);
     doubleSpinBox_frequency->setMaximum(maximum);
     doubleSpinBox_frequency->setValue(frequency);
@@ -206,8 +203,7 @@ void SynccardDialog::show_external_divisor(const QString& source)
     // A divisor with only one possible value is shown, but disabled.
     const bool isFixed = maximum <= minimum;
     label_externalDivisor->setDisabled(isFixed);
-    if (isFixed || !m_is_config_locked)
-        spinBox_externalDivisor->setDisabled(isFixed);
+    setEditable(spinBox_externalDivisor, !isFixed);
     spinBox_externalDivisor->setMinimum(minimum);
     spinBox_externalDivisor->setMaximum(maximum);
     spinBox_externalDivisor->setValue(divisor);
@@ -220,13 +216,8 @@ bool SynccardDialog::isProtocolWithoutDivisor() const
 
 void SynccardDialog::on_comboBox_source_currentIndexChanged(int idx)
 {
-    if (!bUserAction)
-        return;
     const QString source = comboBox_source->itemData(idx).toString();
-    if (source.isEmpty())
-        return;
-    bSourceWaits = !beginStep();
-    if (bSourceWaits)
+    if (!bUserAction || source.isEmpty() || !beginSource())
         return;
     if (setSourceToHub(source) == 0) {
         update_doubleSpinBox_frequency();

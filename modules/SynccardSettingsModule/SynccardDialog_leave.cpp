@@ -6,7 +6,6 @@
 
 #include <QMessageBox>
 #include <QPointer>
-#include <QTimer>
 
 /** Keeps the current settings for Cancel to restore. Without a current card the earlier ones stay. */
 void SynccardDialog::storePreviousSettings()
@@ -22,13 +21,14 @@ void SynccardDialog::storePreviousSettings()
     card->setActiveSource(comboBox_source->currentData().toString());
     card->setFrequency(doubleSpinBox_frequency->value());
     card->setExternalDivisor(spinBox_externalDivisor->value());
+    sSentSource = card->activeSource();
 }
 
 void SynccardDialog::accept()
 {
     if (!beginExit(Accepted))
         return;
-    startLeaving();
+    synccards.clear();
     if (bSomethingChanged && comboBox_modes->currentIndex() >= 0) {
         // Taken now: OK writes what is shown when it begins.
         const QByteArray source = comboBox_source->currentData().toString().toLatin1();
@@ -46,21 +46,12 @@ void SynccardDialog::reject()
 {
     if (!beginExit(Rejected))
         return;
-    startLeaving();
+    synccards.clear();
     if (bSynccardAvailable) {
-        storeActualDirectSettingsToSynccardList();
+        storeActualDirectSettingsToSynccardList(); // what is shown, to compare with the snapshot
         restorePreviousSettings();
     }
     endExit(Rejected);
-}
-
-/** OK and Cancel begin with this: while they send commands, no poll may run and no widget may mark a change. */
-void SynccardDialog::startLeaving()
-{
-    if (timer->isActive())
-        timer->stop();
-    synccards.clear();
-    bUserAction = false;
 }
 
 bool SynccardDialog::applyMode()
@@ -85,8 +76,8 @@ bool SynccardDialog::warnOfFailedChange()
 }
 
 /**
- * Restores the source, which was written while the dialog was open, and then the frequency or the divisor, which may
- * have changed with it. Does nothing unless the dialog was opened with direct settings and still shows them.
+ * Restores the source, if another one was sent while the dialog was open, and then the frequency or the divisor, which
+ * may have changed with it. Does nothing unless the dialog was opened with direct settings and still shows them.
  */
 void SynccardDialog::restorePreviousSettings()
 {
@@ -96,7 +87,7 @@ void SynccardDialog::restorePreviousSettings()
     const Synccard& previous = *previousSettings.at(0);
     if (previous.activeMode() != QLatin1String("direct settings"))
         return;
-    if (previous.activeSource() != current->activeSource() && !restoreSource(previous.activeSource()))
+    if (previous.activeSource() != sSentSource && !restoreSource(previous.activeSource()))
         return;
     if (previous.activeSource() == QLatin1String("internal")) {
         if (previous.frequency() != current->frequency()

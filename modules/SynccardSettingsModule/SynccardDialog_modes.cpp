@@ -15,13 +15,12 @@ int SynccardDialog::update_and_exec_prot_version_0_8()
 {
     if (!update_legacy_card())
         return -1;
-    bUserAction = false;
     QString activeMode;
     if (!list_modes() || !read_active_mode(&activeMode))
         return -1;
     comboBox_modes->setCurrentIndex(comboBox_modes->findData(activeMode));
-    bUserAction = true;
-    return exec_with_poll();
+    updateWidthContols();
+    return run();
 }
 
 /** Shows the one card of a legacy controller. Hides the sync-input labels, which no later opening shows again. */

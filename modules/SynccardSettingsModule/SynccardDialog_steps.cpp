@@ -1,108 +1,119 @@
 #include "SynccardDialog.h"
 
+#include <QHideEvent>
 #include <QPointer>
-#include <QTimer>
 
-// A channel may run an event loop in a command or in a report, so that input and timers arrive in the middle of the
-// dialog's work. This file decides what may begin then: one step at a time, and nothing is sent inside another step.
+// A channel may run an event loop in a command or in a report, so that input and timers arrive while the dialog works:
+// - An opening, a poll, a new source or an exit begins a step, unless another step is under way or something waits.
+// - A step ends after its last command: that of an opening before exec(), that of an exit when the dialog is closed.
+// - While the dialog is open, a new source waits for the end of the step, and the first exit waits for both.
+// - Other requests are dropped at once, a waiting source by Cancel, all that waits when the dialog hides or exec()
+// ends.
 
-/** Refuses an opening while a step is under way or the dialog is open, also while an earlier exec() is still to return.
- */
+/** Refuses an opening during another step, while something waits, and until the exec() of an earlier one returns. */
 bool SynccardDialog::beginOpening()
 {
-    if (step != NoStep || isVisible() || bExecuting)
+    if (bExecuting || !beginStep())
         return false;
-    step = Opening;
-    forgetWaiting();
+    hide();
     return true;
-}
-
-/** Begins a poll or the writing of a new source, unless another step is under way. */
-bool SynccardDialog::beginStep()
-{
-    if (step != NoStep)
-        return false;
-    step = Working;
-    return true;
-}
-
-/** Begins an exit, or lets it wait for the step under way. Of several the first one waits; an opening drops them. */
-bool SynccardDialog::beginExit(DialogCode exit)
-{
-    if (beginStep()) {
-        bClosed = false;
-        bExitWaits = false;
-        return true;
-    }
-    if (step != Opening && !bExitWaits) {
-        bExitWaits = true;
-        waitingExit = exit;
-    }
-    return false;
-}
-
-/**
- * Ends a poll or a new source. What waits is carried out from the event loop, because an exit may end in the deletion
- * of the dialog, and with it of the widget or timer whose signal began this step.
- */
-void SynccardDialog::endStep()
-{
-    step = bSourceWaits || bExitWaits ? Waiting : NoStep;
-    if (step == Waiting)
-        QTimer::singleShot(0, this, &SynccardDialog::carryOutWaiting);
-}
-
-/** Writes the source that is shown now, and leaves when no source waits any more. */
-void SynccardDialog::carryOutWaiting()
-{
-    if (step != Waiting)
-        return;
-    step = NoStep;
-    if (bSourceWaits) {
-        bSourceWaits = false;
-        on_comboBox_source_currentIndexChanged(comboBox_source->currentIndex());
-    }
-    if (step != NoStep || !bExitWaits)
-        return;
-    if (waitingExit == Accepted)
-        accept();
-    else
-        reject();
-}
-
-/** Closes the dialog at the end of an exit, unless the host has closed it meanwhile. The host may delete it then. */
-void SynccardDialog::endExit(DialogCode exit)
-{
-    const QPointer<SynccardDialog> self(this);
-    if (!bClosed)
-        done(exit);
-    if (self)
-        step = NoStep;
-}
-
-/** The dialog has been closed, by an exit or by the host. */
-void SynccardDialog::noteClosed()
-{
-    bClosed = true;
-    forgetWaiting();
-}
-
-void SynccardDialog::forgetWaiting()
-{
-    bSourceWaits = false;
-    bExitWaits = false;
-    if (step == Waiting)
-        step = NoStep;
 }
 
 /** Runs the dialog modally. The dialog may be gone when exec() returns. */
 int SynccardDialog::run()
 {
-    step = NoStep;
+    hide(); // exec() is not modal if the host has shown the dialog, which it may have done during the reads
+    endStep();
     bExecuting = true;
+    bUserAction = bSynccardAvailable;
+    if (bSynccardAvailable)
+        timer->start();
     const QPointer<SynccardDialog> self(this);
     const int result = exec();
-    if (self)
+    if (self) {
         bExecuting = false;
+        stopInput();
+    }
     return result;
+}
+
+bool SynccardDialog::beginStep()
+{
+    if (bBusy || waitTimer.isActive())
+        return false;
+    bBusy = true;
+    return true;
+}
+
+/** Begins the writing of a new source, or lets the source wait. */
+bool SynccardDialog::beginSource()
+{
+    bSourceWaits = !beginStep();
+    return !bSourceWaits;
+}
+
+/** Begins an exit, or lets it wait if it is the first one. */
+bool SynccardDialog::beginExit(DialogCode exit)
+{
+    if (beginStep()) {
+        stopInput();
+        return true;
+    }
+    if (bUserAction && !waitingExit)
+        waitingExit = exit;
+    return false;
+}
+
+/**
+ * Ends any step except an exit. What waits is carried out from the event loop, because an exit may end in the deletion
+ * of the dialog, and with it of the widget or timer whose signal began this step.
+ */
+void SynccardDialog::endStep()
+{
+    bBusy = false;
+    if (bSourceWaits || waitingExit)
+        waitTimer.start();
+}
+
+/** Closes the dialog at the end of an exit, unless the host has hidden it meanwhile. The host may delete it then. */
+void SynccardDialog::endExit(DialogCode exit)
+{
+    const QPointer<SynccardDialog> self(this);
+    if (isVisible())
+        done(exit);
+    if (self)
+        bBusy = false;
+}
+
+/** Writes the source that is shown now, except before Cancel. Then leaves, if an exit waits and no source any more. */
+void SynccardDialog::carryOutWaiting()
+{
+    const bool isSourceWritten = bSourceWaits && waitingExit != Rejected;
+    bSourceWaits = false;
+    if (isSourceWritten)
+        on_comboBox_source_currentIndexChanged(comboBox_source->currentIndex());
+    if (waitTimer.isActive() || !waitingExit)
+        return;
+    if (*waitingExit == Accepted)
+        accept();
+    else
+        reject();
+}
+
+/** A host may hide the dialog in any way, at any time. A minimized dialog goes on. */
+void SynccardDialog::hideEvent(QHideEvent* event)
+{
+    QDialog::hideEvent(event);
+    if (!event->spontaneous())
+        stopInput();
+}
+
+/** Stops the polls, lets no widget mark a change or write a source, and drops what waits. */
+void SynccardDialog::stopInput()
+{
+    timer->stop();
+    waitTimer.stop();
+    bUserAction = false;
+    bSourceWaits = false;
+    waitingExit.reset();
 }

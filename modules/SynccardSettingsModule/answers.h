@@ -1,9 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QtMath>
-
-#include <algorithm>
 
 /** A buffer of \a Size characters, the terminator included, for one text answer of the command channel. */
 template <int Size>
@@ -19,32 +16,22 @@ public:
     /** The text between the first two double quotes; with only one, the text after it; with none, an empty text. */
     QString quoted() const
     {
-        const char* const end = characters + length();
-        const char* const open = std::find(static_cast<const char*>(characters), end, '"');
-        return open == end ? QString() : between(open + 1, std::find(open + 1, end, '"'));
+        const QString answer = text();
+        const int begin = answer.indexOf(QLatin1Char('"')) + 1;
+        if (begin == 0)
+            return {};
+        const int end = answer.indexOf(QLatin1Char('"'), begin);
+        return answer.mid(begin, end < 0 ? -1 : end - begin);
     }
 
     /** The word at \a index, counted from 0, words being separated by white space; empty when there are fewer words. */
-    QString word(int index) const
-    {
-        const auto isSpace = [](char c) { return QChar::isSpace(static_cast<uchar>(c)); };
-        const char* const end = characters + length();
-        const char* begin = std::find_if_not(static_cast<const char*>(characters), end, isSpace);
-        for (; index > 0; --index)
-            begin = std::find_if_not(std::find_if(begin, end, isSpace), end, isSpace);
-        return between(begin, std::find_if(begin, end, isSpace));
-    }
+    QString word(int index) const { return text().simplified().section(QLatin1Char(' '), index, index); }
 
     /** True only when the whole answer is "yes". */
     bool isYes() const { return latin1() == QLatin1String("yes"); }
 
 private:
-    static QString between(const char* begin, const char* end)
-    {
-        return QString::fromLatin1(begin, static_cast<int>(end - begin));
-    }
-    int length() const { return static_cast<int>(qstrnlen(characters, Size)); }
-    QLatin1String latin1() const { return QLatin1String(characters, length()); }
+    QLatin1String latin1() const { return QLatin1String(characters, static_cast<int>(qstrnlen(characters, Size))); }
 
     char characters[Size] = {};
 };
@@ -52,15 +39,6 @@ private:
 using TextAnswer = Answer<200>;
 using OutputAnswer = Answer<100>; // to "synccard output d01", read before OK writes the output
 using FlagAnswer = Answer<16>;    // to "synccard has_input_frequency", read by each poll
-
-/**
- * Whether a read that returned \a result succeeded with a finite \a value.
- * \a value is a reference because the call may contain the read: `isRead(cm->getParameterDouble(&hz, "..."), hz)`.
- */
-inline bool isRead(int result, const double& value)
-{
-    return result == 0 && qIsFinite(value);
-}
 
 constexpr int maximumCount = 999;
 

@@ -7,12 +7,14 @@
 
 static ControllerTable standardTable()
 {
-    NamedController standard;
-    const QString problem = readController(DATA_DIR "/standard-controller.txt", &standard);
+    ControllerTable read;
+    const QString problem = readTable(DATA_DIR "/standard-controller.txt", {}, &read);
     if (!problem.isEmpty())
         qFatal("%s", qPrintable(problem));
-    standard.table.forgetLines();
-    return standard.table;
+    ControllerTable standard; // Lines are those of cases.
+    for (const AnswerRow& row : read.rows())
+        standard.insert({row.command, row.answer, row.isFailure});
+    return standard;
 }
 
 ScriptedController::ScriptedController() : SimulatedController(standardTable())

@@ -11,9 +11,9 @@
 class ControllerChannel;
 
 /**
- * The controller of most tests: tests/data/standard-controller.txt, changed by the lines of a case. It can fail commands
- * by their number, and keeps each command behind its operation ("get synccard available"), and each report of the
- * channel above it.
+ * The controller of most tests: tests/data/standard-controller.txt, changed by the lines of a case. It can fail
+ * commands by their number, and keeps each command behind its operation ("get synccard available"), and each report of
+ * the channel above it.
  */
 class ScriptedController : public SimulatedController
 {

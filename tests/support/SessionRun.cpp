@@ -80,6 +80,7 @@ QString act(LoadedModule& module, const SessionLine& line)
         {"answer", [&] { problem = module.link.script(line.text.mid(action.size() + 1), line.number); }},
         {"leave", [&] { dialog->isVisible() ? user.leave(words.value(1)) : leaveHidden(); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
+        {"hide", [&] { dialog->hide(); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
         {"delete-parent", [&] { delete module.parent; }},
         {"exit-module", [&] { module.loader.module()->exit_module(); }}};
