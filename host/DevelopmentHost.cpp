@@ -20,14 +20,10 @@ DevelopmentHost::DevelopmentHost(const HostSetup& setup)
     if (ModuleLoader::loadTranslation(&translator, setup.language, loader.fileName()))
         QCoreApplication::installTranslator(&translator);
     connect(&recorded, &Replay::differed, this, &DevelopmentHost::noted);
-    connect(&commandRecorder, &Recorder::started, this, [this] {
-        emit noted("Recording into " + commandRecorder.fileName());
-        emit changed();
-    });
-    connect(&commandRecorder, &Recorder::ended, this, [this](const QString& problem) {
-        emit noted(problem.isEmpty() ? "The recording is complete" : problem);
-        emit changed();
-    });
+    connect(&commandRecorder, &Recorder::started, this,
+            [this] { emit noted("Recording into " + commandRecorder.fileName()); });
+    connect(&commandRecorder, &Recorder::ended, this,
+            [this](const QString& problem) { emit noted(problem.isEmpty() ? "The recording is complete" : problem); });
 }
 
 QString DevelopmentHost::start(QMainWindow* window)
@@ -67,7 +63,6 @@ void DevelopmentHost::connectTo(const ControllerTable& table)
     emit noted(QString("Connected to %1, protocol %2, model %3")
                    .arg(setup.controller.name, table.identity.protocol.toString(), table.identity.model));
     commandRecorder.connected(table.identity);
-    emit changed();
 }
 
 QString DevelopmentHost::restart(const ControllerTable& table)
@@ -96,7 +91,6 @@ QString DevelopmentHost::changeController(const ControllerTable& table)
 {
     if (table.identity == simulated.table().identity) {
         simulated.setTable(table);
-        emit changed(); // the description
         return {};
     }
     if (!whyBusy().isEmpty())

@@ -69,9 +69,7 @@ public:
     bool isReplaying() const { return !setup.replay.isEmpty(); }
 
 signals:
-    /** description() and title() have changed. */
-    void changed();
-    /** The log takes \a text as a note. */
+    /** Something has happened that the log takes as a note. description() and title() may have changed. */
     void noted(const QString& text);
 
 private:

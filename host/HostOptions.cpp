@@ -16,7 +16,7 @@ static bool printed(const QString& text)
     return false;
 }
 
-HostOptions::HostOptions(const QString& description, ReplayedController replayed) : replayed(replayed)
+HostOptions::HostOptions(const QString& description)
 {
     parser.setApplicationDescription(description);
     parser.addOption({{"h", "help"}, "Shows this help."});
@@ -140,12 +140,9 @@ bool HostOptions::checkTexts()
 
 bool HostOptions::checkReplay()
 {
-    QStringList excluded = {"fail", "protocol"};
-    if (replayed == Ignored)
-        excluded.append("controller");
-    for (const QString& name : qAsConst(excluded)) {
+    for (const char* name : {"fail", "protocol"}) {
         if (parser.isSet("replay") && parser.isSet(name))
-            return refuse("--" + name + ": not with --replay, which takes it from the recording");
+            return refuse(QString("--%1: not with --replay, which takes it from the recording").arg(name));
     }
     return true;
 }

@@ -8,10 +8,7 @@
 class HostOptions
 {
 public:
-    /** What a program does with --controller together with --replay. */
-    enum ReplayedController { Ignored, Compared };
-
-    explicit HostOptions(const QString& description, ReplayedController replayed = Ignored);
+    explicit HostOptions(const QString& description);
 
     /** Adds an option of one program. */
     void addOption(const QCommandLineOption& option) { parser.addOption(option); }
@@ -43,7 +40,6 @@ private:
     bool checkReplay();
 
     QCommandLineParser parser;
-    ReplayedController replayed;
     HostSetup host;
     int itsStatus = 0;
 };

@@ -38,7 +38,7 @@ void MainWindow::createDescription()
     description->setMargin(margin);
     description->setMinimumWidth(columns * fontMetrics().averageCharWidth());
     setCentralWidget(description);
-    connect(host, &DevelopmentHost::changed, this, [this, description] {
+    connect(host, &DevelopmentHost::noted, this, [this, description] {
         description->setText(host->description());
         setWindowTitle(host->title() + " - Development Host");
     });

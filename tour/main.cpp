@@ -21,8 +21,7 @@ void noteWarning(const QString& message)
 int main(int argc, char* argv[])
 {
     HostOptions options("Drives the synccard dialog like a user: walks through it on the controller \"full\", opens it "
-                        "once on any other.",
-                        HostOptions::Compared);
+                        "once on any other.");
     options.addOption({"pictures", "Saves a picture of each state into <folder>.", "folder"});
     if (!options.parse(argc, argv))
         return options.status();

@@ -16,7 +16,7 @@ Workbench::Workbench(DevelopmentHost* host)
 {
     const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     resize(initialSize.boundedTo(QGuiApplication::primaryScreen()->availableSize() - frame));
-    connect(host, &DevelopmentHost::changed, this, [this, host] { setWindowTitle(host->title() + " - Workbench"); });
+    connect(host, &DevelopmentHost::noted, this, [this, host] { setWindowTitle(host->title() + " - Workbench"); });
     auto* tabs = new QTabWidget;
     tabs->addTab(new LogPane(host), "Lo&g");
     if (!host->isReplaying())
