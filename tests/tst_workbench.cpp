@@ -1,249 +1,306 @@
-#include "CommandPane.h"
 #include "ControllerPane.h"
 #include "DevelopmentHost.h"
 #include "Files.h"
+#include "FilteredTable.h"
 #include "LoadedModule.h"
-#include "StepCounter.h"
+#include "LogPane.h"
+#include "MainWindow.h"
 #include "Workbench.h"
 
 #include <QAbstractItemModelTester>
-#include <QAction>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QSortFilterProxyModel>
+#include <QScrollBar>
 #include <QSpinBox>
-#include <QTabBar>
-#include <QTableView>
+#include <QTabWidget>
 #include <QTemporaryDir>
 
-/** Recorded sessions with the host, the tree of the controller's state, and the workbench beside the dialog. */
+/** The host's windows: the log, the faults, the controller's table, recordings and refusals. */
 class TestWorkbench : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { failOnWarnings(); }
-    void replaysWhatItRecorded();
+    void logsInOrder();
+    void followsTheEnd();
+    void makesFaults();
     void editsTheController();
-    void staysUsableBesideTheDialog();
-    void logsOpeningAndExit();
+    void replaysWhatItRecorded();
+    void keepsARecording();
 };
 
 namespace {
 
-/** Opens the dialog by its menu entry. */
-void open(DevelopmentHost& host, const std::function<void(const DialogUser&)>& steps,
-          DialogUser::Outcome expected = DialogUser::Closed)
+/** The host connected to "full", with its windows, and what a user does with them. */
+struct Windows
 {
-    host.window().show();
-    host.window().activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&host.window()));
-    const DialogUser user(host.dialog());
-    QCOMPARE(user.openBy([&] { host.entry().menu_entry->trigger(); }, [&] { steps(user); }), expected);
-}
+    explicit Windows(HostSetup setup = HostSetup())
+        : host((readController("full", &setup.controller), setup)), window(&host), workbench(&host),
+          log(workbench.findChild<LogPane*>()->findChild<FilteredTable*>()), rows(log->model())
+    {
+        const QString problem = host.start(&window);
+        if (!problem.isEmpty())
+            QTest::qFail(qPrintable(problem), __FILE__, __LINE__);
+        workbench.show();
+        window.show();
+    }
 
-QList<QSize> iconSizes(DevelopmentHost& host)
-{
-    open(host, [](const DialogUser& user) { user.leave("Escape"); });
-    return host.dialog()->windowIcon().availableSizes();
-}
+    /** Opens the dialog by its menu entry, runs \a steps and leaves by Escape. */
+    DialogUser::Outcome open(const DialogUser::Steps& steps = [] {})
+    {
+        window.activateWindow();
+        QTest::qVerify(QTest::qWaitForWindowActive(&window), "the host's window is active", "", __FILE__, __LINE__);
+        const DialogUser user(host.dialog());
+        return user.openBy([this] { host.entry().menu_entry->trigger(); },
+                           [&] {
+                               steps();
+                               user.leave("Escape");
+                           });
+    }
+    void poll() const { QMetaObject::invokeMethod(host.dialog(), "poll_input_frequency"); }
+    QString see(const char* name) const { return textOfWidget(host.dialog()->findChild<QWidget*>(name)); }
 
-void raiseFrequency(const DialogUser& user)
-{
-    user.press("doubleSpinBox_frequency", Qt::Key_Up);
-    QMetaObject::invokeMethod(user.dialog(), "poll_input_frequency");
-    user.leave("OK");
-}
+    /** Returns the log without times: "get|synccard available|yes|ok". */
+    QStringList lines() const
+    {
+        QStringList lines;
+        for (int row = 0; row < rows->rowCount(); ++row)
+            lines +=
+                rows->index(row, 0).data(FilteredTable::lineRole).toString().section('\t', 1, 4).replace('\t', '|');
+        return lines;
+    }
 
-/** Records one opening, during which nothing can be changed. Returns what the host said. */
-QStringList record(const QString& file)
-{
-    DevelopmentHost host{HostSetup()};
-    host.start();
-    QStringList said = {host.startRecording(file)};
-    open(host, [&](const DialogUser& user) {
-        said << host.stopRecording() << host.startRecording(file) << host.resetController();
-        raiseFrequency(user);
-    });
-    said << host.window().windowTitle() << host.startRecording(file);
-    return said << (host.recorder().isRecording() ? "goes on" : "has ended") << host.stopRecording();
-}
+    /** Types \a text into \a widget, in place of what it contains. */
+    void type(QWidget* widget, const QString& text)
+    {
+        workbench.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&workbench));
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(widget, Qt::Key_Delete);
+        QTest::keyClicks(widget, text);
+    }
+
+    DevelopmentHost host;
+    MainWindow window;
+    Workbench workbench;
+    FilteredTable* log;
+    QAbstractItemModel* rows;
+};
 
 } // namespace
 
-/** A replay shows the recorded controller and ignores the number of polls. From the first difference on all fails. */
-void TestWorkbench::replaysWhatItRecorded()
-{
-    QTemporaryDir folder;
-    const QString file = folder.filePath("a");
-    const QString busy = "Close the dialog first.";
-    const QString title = "recording a, full, protocol 1.23.0, process %1 - Development Host";
-    const QString exists = file + ": this file exists; name another one, or remove it first";
-    QCOMPARE(record(file),
-             QStringList({"", busy, busy, busy, title.arg(QCoreApplication::applicationPid()), exists, "goes on", ""}));
-    QByteArray text = readFile(file);
-    text.replace("frequency d01 -> 60\n", "frequency d01 -> 77\n").replace("frequency d01 61", "frequency d01 78");
-    writeFile(file, text);
-    HostSetup replaying;
-    replaying.replay = file;
-    replaying.state.protocol = VersionInfo(0, 9, 0);
-    {
-        DevelopmentHost host(replaying);
-        QVERIFY2(host.start(), qPrintable(host.errorString()));
-        for (int round = 0; round < 2; ++round) {
-            QCOMPARE(host.rewindReplay(), QString());
-            open(host, [&](const DialogUser& user) {
-                QMetaObject::invokeMethod(user.dialog(), "poll_input_frequency");
-                QCOMPARE(textOfWidget(user.find<QWidget>("label_inputFrequency")), "59.940");
-                QCOMPARE(textOfWidget(user.find<QWidget>("doubleSpinBox_frequency")), "10..500:77");
-                raiseFrequency(user);
-            });
-        }
-        QCOMPARE(host.replay().problem(), QString());
-    }
-    writeFile(file, QByteArray(text).replace("get synccard mode t02", "get synccard mode t03"));
-    DevelopmentHost differing(replaying);
-    QVERIFY(differing.start());
-    open(differing, raiseFrequency, DialogUser::NotShown);
-    const QString expected = R"(%1:%2: expected "get synccard mode t03", found "get synccard mode t02")";
-    QCOMPARE(differing.replay().problem(), expected.arg(file).arg(text.left(text.indexOf("mode t02")).count('\n') + 1));
-    QCOMPARE(differing.rewindReplay(), QString());
-    QVERIFY(differing.replay().progress().endsWith(", next: get config is_changeable"));
-}
-
-/** The tree refuses impossible values. A protocol that crosses 0.13 loads the module again. */
-void TestWorkbench::editsTheController()
-{
-    DevelopmentHost host{HostSetup()};
-    QVERIFY(host.start());
-    ControllerModel model(&host);
-    const QAbstractItemModelTester tester(&model);
-    QString problem;
-    connect(&model, &ControllerModel::edited, this, [&](const QString& said) { problem = said; });
-    const auto edit = [&](const char* name, const QVariant& value) {
-        const QStandardItem* item = model.findItems(name, Qt::MatchRecursive | Qt::MatchStartsWith).constFirst();
-        model.setData(item->index().siblingAtColumn(1), value);
-        return item->text() + ' ' + item->index().siblingAtColumn(1).data().toString() + ' ' + problem;
-    };
-    QCOMPARE(edit("locked", true), "locked * true ");
-    QCOMPARE(iconSizes(host), {QSize(48, 48)});
-    QCOMPARE(edit("frequency", "75.5"), "frequency * 75.5 ");
-    QCOMPARE(edit("divisor", "x"), "divisor 1 cards 1, divisor: a number from 1 to 100 is expected");
-    const auto* delay = model.findItems("delay", Qt::MatchRecursive).constFirst();
-    QCOMPARE(delay->index().siblingAtColumn(ControllerModel::UnitColumn).data().toString(), "ms");
-    const auto* mode = model.findItems("activeMode", Qt::MatchRecursive).constFirst();
-    const std::unique_ptr<QWidget> editor(
-        ControllerPane(&host)
-            .itemDelegateForColumn(ControllerModel::ValueColumn)
-            ->createEditor(nullptr, {}, mode->index().siblingAtColumn(ControllerModel::ValueColumn)));
-    const auto* box = qobject_cast<QComboBox*>(editor.get());
-    QCOMPARE(textOfWidget(box), "*none=|cam100=|cam200=|genlock=|slave= hidden");
-    QVERIFY(!box->isEditable());
-    model.markFromNow();
-    QCOMPARE(edit("locked", false), "locked * false ");
-    QCOMPARE(iconSizes(host), host.window().windowIcon().availableSizes());
-    QCOMPARE(edit("protocol", "1.10"), "protocol * 1.10.0 ");
-    open(host, [](const DialogUser& user) {
-        user.choose("comboBox_source", "video");
-        user.leave("OK");
-    });
-    QTRY_COMPARE(model.findItems("source *", Qt::MatchRecursive).size(), 1);
-    QPointer<QAction> entry(host.entry().menu_entry);
-    open(host, [&](const DialogUser& user) {
-        QVERIFY(edit("protocol", "0.12.7").contains("close the dialog first"));
-        user.leave("Escape");
-    });
-    QVERIFY(entry);
-    QCOMPARE(edit("protocol", "0.12.7"), "protocol * 0.12.7 ");
-    QVERIFY(!entry);
-    open(host, [](const DialogUser& user) { user.leave("Escape"); });
-}
-
-/** Clicks reach the workbench while the dialog is open, and the main window does not close then. */
-void TestWorkbench::staysUsableBesideTheDialog()
+/** A report stands below its command. A failed command stands out, and is shown even if it is a poll. */
+void TestWorkbench::logsInOrder()
 {
     HostSetup failing;
-    failing.failing.setPattern("model_desc 0x0405|has_output");
-    DevelopmentHost host(failing);
-    Workbench workbench(&host);
-    QVERIFY(host.start());
-    workbench.show();
-    for (const char* name : {"commands", "reports"}) {
-        QAbstractItemModel* shown = workbench.findChild<QTableView*>(name)->model();
-        while (const auto* proxy = qobject_cast<QSortFilterProxyModel*>(shown))
-            shown = proxy->sourceModel();
-        new QAbstractItemModelTester(shown, &workbench);
-    }
-    auto* tabs = workbench.findChild<QTabBar*>();
-    const auto rows = [&](const char* table) { return workbench.findChild<QTableView*>(table)->model()->rowCount(); };
-    open(host, raiseFrequency, DialogUser::NotShown);
-    QCOMPARE(rows("reports"), 1);
-    host.faults().failMatching(QRegularExpression("has_output"));
-    open(host, [&](const DialogUser& user) {
-        QTest::mouseClick(workbench.windowHandle(), Qt::LeftButton, {},
-                          tabs->mapTo(&workbench, tabs->tabRect(1).center()));
-        QCOMPARE(tabs->currentIndex(), 1);
-        host.window().close();
-        QVERIFY(host.window().isVisible());
-        user.leave("Escape");
+    failing.failing.setPattern("number_of_modes");
+    Windows windows(failing);
+    const QAbstractItemModelTester tester(windows.rows);
+    QCOMPARE(windows.open(), DialogUser::NotShown);
+    const QStringList lines = windows.lines();
+    QCOMPARE(lines.mid(0, 2), QStringList({"note|Connected to full, protocol 1.23.0, model QUILLSTONE 3||",
+                                           "get|config is_changeable|yes|ok"}));
+    QCOMPARE(lines.mid(lines.size() - 2),
+             QStringList({"int|synccard number_of_modes||failed",
+                          "report|Error: Unable to get Synccard number of modes|standard ZORVAN3 1|"}));
+    QVERIFY(windows.rows->index(lines.size() - 2, 2).data(Qt::FontRole).value<QFont>().bold());
+    windows.host.faults().failMatching(QRegularExpression(" input_frequency"));
+    windows.open([&] {
+        const int before = windows.rows->rowCount();
+        windows.poll();
+        QCOMPARE(windows.lines().value(before), QString("get|synccard input_frequency||failed"));
+        QCOMPARE(windows.rows->rowCount(), before + 2);
+        windows.workbench.findChild<QCheckBox*>()->click(); // "Hide polls"
+        QCOMPARE(windows.rows->rowCount(), before + 3);
+        windows.window.close(); // A box would disturb the dialog.
+        QCOMPARE(windows.lines().constLast(), QString("note|Close the dialog first.||"));
+        QVERIFY(windows.window.isVisible());
     });
-    open(host, [](const DialogUser& user) { user.leave("Escape"); });
-    QCOMPARE(rows("reports"), 4);
-    QCOMPARE(workbench.findChild<QTableView*>("reports")->model()->index(3, 4).data().toString(), "2");
-    QTRY_VERIFY(rows("commands") > 60);
-    tabs->setCurrentIndex(0);
-    QTest::keyClicks(workbench.findChild<QLineEdit*>(), "FAILED");
-    QCOMPARE(rows("commands"), 7);
-    workbench.findChildren<QPushButton*>().constLast()->click();
-    QCOMPARE(rows("commands"), 0);
-    auto* measurement = host.window().findChild<QAction*>("measurement");
-    measurement->trigger();
-    QVERIFY(!host.entry().menu_entry->isEnabled());
-    measurement->trigger();
-    QVERIFY(host.entry().menu_entry->isEnabled());
+    windows.type(windows.log->filter(), "FAILED");
+    QCOMPARE(windows.rows->rowCount(), 2);
+    auto* sum = windows.workbench.findChild<LogPane*>()->findChildren<QLabel*>().value(1);
+    QTRY_VERIFY(QRegularExpression("^2 of \\d+ rows, 2 commands, ").match(sum->text()).hasMatch());
+    windows.log->selectRow(1);
+    QTRY_VERIFY(QRegularExpression("^1 of \\d+ rows, 1 command, ").match(sum->text()).hasMatch());
+    windows.log->setFocus();
+    QTest::keyClick(windows.log, Qt::Key_C, Qt::ControlModifier);
+    const QRegularExpression copied("^[\\d:.]+\tget\tsynccard input_frequency\t\tfailed\t[\\d.]+ ms\n$");
+    QVERIFY(copied.match(QApplication::clipboard()->text()).hasMatch());
 }
 
-void TestWorkbench::logsOpeningAndExit()
+/** The log stays at its end through openings, other sizes and slow commands, unless the user has scrolled up. */
+void TestWorkbench::followsTheEnd()
 {
-    DevelopmentHost host{HostSetup()};
-    Workbench workbench(&host);
-    QVERIFY(host.start());
-    workbench.findChildren<QCheckBox*>().constLast()->click(); // "wait in an event loop"
-    host.faults().setLatency(1);
-    QStringList steps;
-    connect(workbench.findChild<StepCounter*>(), &StepCounter::counted, this,
-            [&](auto& text) { steps += text.section(',', 0, 0); });
-    open(host, raiseFrequency);
-    QCOMPARE(steps, QStringList({"Opening: 40 commands", "OK: 14 commands"}));
-    auto* table = workbench.findChild<QTableView*>("commands");
-    QTRY_COMPARE(table->model()->rowCount(), 54);
-    workbench.findChild<QCheckBox*>()->click(); // "Hide polls"
-    QVERIFY(table->model()->rowCount() >= 56);
+    Windows windows;
+    QScrollBar* bar = windows.log->verticalScrollBar();
+    const auto isAtEnd = [&] {
+        const QModelIndex last = windows.rows->index(windows.rows->rowCount() - 1, 0);
+        return windows.log->viewport()->rect().contains(windows.log->visualRect(last));
+    };
+    for (const QSize& size : {QSize(960, 560), QSize(700, 420), QSize(400, 700), QSize(1000, 500)}) {
+        windows.workbench.resize(size);
+        windows.open();
+        QTRY_VERIFY(isAtEnd());
+        QVERIFY(bar->maximum() > 0);
+    }
+    connect(&windows.host.channel(), &ControllerChannel::executed, this, [&](const CommandRecord& record) {
+        // No event loop runs in the middle of an opening.
+        if (windows.host.faults().latency() > 0 && record.command == "synccard output d01")
+            QVERIFY(isAtEnd());
+    });
+    windows.host.faults().setLatency(11);
+    windows.open();
+    windows.host.faults().setLatency(0);
+    bar->triggerAction(QScrollBar::SliderPageStepSub);
+    const int value = bar->value();
+    windows.open();
+    QTest::qWait(1);
+    QCOMPARE(bar->value(), value);
+    bar->triggerAction(QScrollBar::SliderToMaximum);
+    windows.open();
+    QTRY_VERIFY(isAtEnd());
+}
+
+/** A fault is active as soon as it is typed. Polls neither count, nor change what the user types. */
+void TestWorkbench::makesFaults()
+{
+    Windows windows;
+    const Faults& faults = windows.host.faults();
+    QLineEdit* pattern = nullptr;
+    for (QLineEdit* field : windows.workbench.findChildren<QLineEdit*>())
+        pattern = field->placeholderText().isEmpty() ? pattern : field;
+    windows.type(pattern, "output_(");
+    QCOMPARE(faults.failing().pattern(), QString("output_"));
+    QVERIFY(pattern->accessibleDescription().contains("missing closing parenthesis"));
+    QTest::keyClicks(pattern, "x)");
+    QCOMPARE(faults.failing().pattern() + pattern->accessibleDescription(), QString("output_(x)"));
+    auto* count = windows.workbench.findChildren<QSpinBox*>().value(0);
+    windows.type(windows.workbench.findChildren<QSpinBox*>().value(1), "7");
+    QCOMPARE(faults.latency(), 7);
+    windows.type(count, "3");
+    windows.poll();
+    QTest::keyClicks(count, "9");
+    QCOMPARE(faults.commandsToFailure(), 39);
+    windows.type(count, "2");
+    QCOMPARE(windows.open(), DialogUser::Closed);
+    QCOMPARE(faults.commandsToFailure() + count->value(), 0);
+    QCOMPARE(windows.lines().filter("failed"), QStringList("get|synccard available||failed"));
+}
+
+/** Answers change by keys, even while the dialog is open. Lines are pasted together. What is wrong changes nothing. */
+void TestWorkbench::editsTheController()
+{
+    Windows windows;
+    windows.workbench.findChild<QTabWidget*>()->setCurrentIndex(1);
+    const auto* pane = windows.workbench.findChild<ControllerPane*>();
+    auto* table = pane->findChild<FilteredTable*>();
+    const auto* problem = pane->findChildren<QLabel*>().constLast();
+    QAbstractItemModel* rows = table->model();
+    const QAbstractItemModelTester tester(rows);
+    const auto firstRow = [&] {
+        return rows->index(0, 0).data().toString() + " = " + rows->index(0, 1).data().toString();
+    };
+    const auto edit = [&](const QString& filter, const QString& answer) {
+        windows.type(table->filter(), filter);
+        table->setFocus();
+        table->setCurrentIndex(rows->index(0, 0));
+        QTest::keyClick(table, Qt::Key_Return);
+        auto* editor = table->viewport()->findChild<QLineEdit*>();
+        QTest::keyClicks(editor, answer);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTest::qWait(1);
+        return firstRow() + problem->text();
+    };
+    const auto paste = [&](const QString& lines) {
+        QApplication::clipboard()->setText(lines);
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+        return problem->text();
+    };
+    QCOMPARE(edit("max_internal_frequency d01", "75"), QString("synccard max_internal_frequency d01 * = 75"));
+    QVERIFY(rows->index(0, 1).data(Qt::FontRole).value<QFont>().bold());
+    const int before = windows.host.controller().table().rows().size();
+    QVERIFY(paste("synccard source d03 = video\nsynccard sauce d03 = video").startsWith("line 2: "));
+    QCOMPARE(windows.host.controller().table().rows().size(), before);
+    QCOMPARE(paste("synccard number_of_synccards = 9\nsynccard synccard d[03-09] = 0x0402 1[03-09]"), QString());
+    const QPointer<QAction> entry(windows.host.entry().menu_entry);
+    windows.open([&] {
+        QCOMPARE(windows.see("doubleSpinBox_frequency"), QString("10..75:60"));
+        QVERIFY(windows.see("tableWidget_synccards").contains(",109"));
+        QCOMPARE(edit("synccard input_frequency", "ttl 7"), QString("synccard input_frequency * = ttl 7"));
+        windows.poll();
+        QCOMPARE(windows.see("label_inputFrequency"), QString("7"));
+        QVERIFY(edit("protocol", "0.12.7").endsWith("Close the dialog first."));
+    });
+    QCOMPARE(edit("max_internal_frequency d01", "80"), QString("synccard max_internal_frequency d01 * = 80"));
+    windows.type(table->filter(), "synccard synccard d0");
     table->setFocus();
-    table->selectRow(1);
-    workbench.show();
-    QVERIFY(QTest::qWaitForWindowActive(&workbench));
-    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
-    static const QRegularExpression copied(R"(^# Development Host .*\nTime\t.*\n\S+\tget\tsynccard available\t.*\n$)");
-    QVERIFY(copied.match(QApplication::clipboard()->text()).hasMatch());
+    table->selectAll();
+    QTest::keyClick(table, Qt::Key_Delete);
+    QTRY_COMPARE(rows->rowCount(), 0);
+    QVERIFY(entry);
+    QCOMPARE(edit("protocol", "0.12.7"), QString("protocol * = 0.12.7"));
+    QVERIFY(!entry);
+    QCOMPARE(windows.open(), DialogUser::Closed);
+}
+
+/** A replay ignores the number of polls. The first difference is noted whole. */
+void TestWorkbench::replaysWhatItRecorded()
+{
     const QTemporaryDir folder;
-    for (const char* file : {"missing/a", "a"}) {
-        const QString path = folder.filePath(file);
-        workbench.findChild<CommandPane*>()->save(path);
-        QCOMPARE(workbench.findChild<QLabel*>("message")->text(),
-                 *file == 'a' ? "Saved to " + path : path + ": No such file or directory");
+    HostSetup setup;
+    setup.record = folder.filePath("a");
+    {
+        Windows windows(setup);
+        windows.host.resetController();
+        windows.open([&] { windows.poll(); });
+        windows.host.resetController();
+        windows.host.resetController();
+        windows.open();
     }
-    auto* latency = workbench.findChildren<QSpinBox*>().constLast();
-    for (const int expected : {0, 100}) {
-        QWheelEvent wheel({}, {}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(latency, &wheel);
-        QCOMPARE(latency->value(), expected);
-        latency->setFocus();
+    const QByteArray text = readFile(setup.record);
+    QCOMPARE(text.count(" connect "), 2);
+    std::swap(setup.record, setup.replay);
+    {
+        Windows windows(setup);
+        QCOMPARE(windows.workbench.findChild<QTabWidget*>()->count(), 1); // no controller
+        for (int round = 0; round < 2; ++round) {
+            windows.open([&] {
+                windows.poll();
+                windows.poll();
+                QCOMPARE(windows.see("label_inputFrequency"), QString("59.940"));
+            });
+            windows.host.rewindReplay();
+        }
+        QCOMPARE(windows.lines().filter("failed"), {});
     }
+    writeFile(setup.replay, QByteArray(text).replace("get synccard mode t02", "get synccard mode t03"));
+    Windows windows(setup);
+    QCOMPARE(windows.open(), DialogUser::NotShown);
+    const QString note = R"(note|%1:%2: expected "get synccard mode t03", found "get synccard mode t02"||)";
+    const int line = text.left(text.indexOf("mode t02")).count('\n') + 1;
+    QCOMPARE(windows.lines().filter("expected"), QStringList(note.arg(setup.replay).arg(line)));
+}
+
+/** A second recording that cannot be opened leaves the first one running. */
+void TestWorkbench::keepsARecording()
+{
+    const QTemporaryDir folder;
+    Windows windows;
+    Recorder& recorder = windows.host.recorder();
+    const QString file = folder.filePath("a");
+    QCOMPARE(recorder.start(file), QString());
+    for (const QString& other : {file, folder.path(), folder.filePath("no/b"), QString("/dev/full")}) {
+        QVERIFY(recorder.start(other).startsWith(other + ": "));
+        QCOMPARE(recorder.fileName(), file);
+    }
+    windows.open();
+    recorder.stop();
+    QVERIFY(readFile(file).contains("get config is_changeable -> yes\n"));
 }
 
 QTEST_MAIN(TestWorkbench)
