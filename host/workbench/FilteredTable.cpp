@@ -42,7 +42,9 @@ QModelIndexList FilteredTable::chosenRows() const
 {
     QModelIndexList rows = selectionModel()->selectedRows();
     std::sort(rows.begin(), rows.end());
-    for (int row = 0; !selectionModel()->hasSelection() && row < shown.rowCount(); ++row)
+    if (!rows.isEmpty())
+        return rows;
+    for (int row = 0; row < shown.rowCount(); ++row)
         rows.append(shown.index(row, 0));
     return rows;
 }

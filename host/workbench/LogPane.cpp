@@ -15,6 +15,7 @@
 #include <QTime>
 
 static constexpr int answerColumn = 3;
+static constexpr int sumMilliseconds = 100;    // so that no opening waits for the sum
 static constexpr double slowMilliseconds = 10; // more than it takes to paint the table
 
 /** What the first cell of a row has besides its line. */
@@ -48,6 +49,7 @@ LogPane::LogPane(DevelopmentHost* host)
             });
     connect(host, &DevelopmentHost::noted, this, [this](auto& text) { addRow({"note", text, {}, {}, {}}, true); });
     summing.setSingleShot(true);
+    summing.setInterval(sumMilliseconds);
     connect(&summing, &QTimer::timeout, this, &LogPane::sumUp);
     const auto sumSoon = [this] { summing.start(); };
     connect(table->model(), &QAbstractItemModel::rowsInserted, this, sumSoon);
@@ -80,7 +82,8 @@ void LogPane::addRow(const QStringList& texts, bool isBold, const QVariant& mill
     for (const QString& text : all) {
         auto* item = new QStandardItem(text);
         item->setToolTip(text);
-        item->setFont(font);
+        if (isBold)
+            item->setFont(font);
         row.append(item);
     }
     row.first()->setData(all.join('\t'), FilteredTable::lineRole);
@@ -91,7 +94,7 @@ void LogPane::addRow(const QStringList& texts, bool isBold, const QVariant& mill
 
 void LogPane::setColumnWidths()
 {
-    const int widest[] = {15, 11, 44, 10, 8, 14}; // in average characters
+    const int widest[] = {17, 12, 44, 10, 8, 13}; // in average characters
     for (int column = 0; column < log.columnCount(); ++column)
         table->setColumnWidth(column, widest[column] * table->fontMetrics().averageCharWidth());
     table->horizontalHeader()->setSectionResizeMode(answerColumn, QHeaderView::Stretch);
