@@ -8,7 +8,7 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-static constexpr int nameWidth = 16; // characters in a list of controllers
+static constexpr int nameWidth = 17; // characters in a list of controllers
 
 static bool printed(const QString& text)
 {

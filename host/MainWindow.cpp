@@ -59,9 +59,9 @@ void MainWindow::createHostMenu()
     QMenu* menu = menuBar()->addMenu("Ho&st");
     menu->addAction("&Workbench", this, &MainWindow::workbenchWanted, {"Ctrl+B"});
     menu->addAction("&Quit", this, &QWidget::close, {"Ctrl+Q"});
-    // in the workbench as well
-    for (QAction* action : menu->actions())
-        action->setShortcutContext(Qt::ApplicationShortcut);
+    const QList<QAction*> entries = menu->actions();
+    for (QAction* entry : entries)
+        entry->setShortcutContext(Qt::ApplicationShortcut); // in the workbench as well
 }
 
 void MainWindow::createRecordingMenu()
