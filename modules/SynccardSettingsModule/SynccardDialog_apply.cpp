@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Results of saveDirectSettings(). Its caller only asks for Saved. The other numbers, without 5 and 6, are agreed. */
+/** Results of saveDirectSettings(). The numbers are given, and 5 and 6 are not used. Callers only ask for Saved. */
 enum SaveResult {
     Saved = 0,
     DirectSettingsFailed = 1,

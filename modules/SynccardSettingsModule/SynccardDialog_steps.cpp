@@ -7,8 +7,7 @@
 // - An opening, a poll, a new source or an exit begins a step, unless another step is under way or something waits.
 // - A step ends after its last command: that of an opening before exec(), that of an exit when the dialog is closed.
 // - While the dialog is open, a new source waits for the end of the step, and the first exit waits for both.
-// - Other requests are dropped at once, a waiting source by Cancel, all that waits when the dialog hides or exec()
-// ends.
+// - Other requests are dropped at once, a waiting source by Cancel, all that waits if the dialog hides or exec() ends.
 
 /** Refuses an opening during another step, while something waits, and until the exec() of an earlier one returns. */
 bool SynccardDialog::beginOpening()
