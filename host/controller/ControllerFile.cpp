@@ -20,8 +20,9 @@ QString controllerDirectory()
 QString readTable(const QString& wanted, const QStringList& files, ControllerTable* table)
 {
     const bool isName = !wanted.contains('/') && !wanted.endsWith(suffix);
-    const QDir start = files.isEmpty() ? QDir() : QFileInfo(files.first()).dir();
-    const QString name = isName ? controllerDirectory() + '/' + wanted + suffix : start.filePath(wanted);
+    QString name = isName ? controllerDirectory() + '/' + wanted + suffix : wanted;
+    if (!files.isEmpty())
+        name = QFileInfo(files.first()).dir().filePath(name);
     if (isName && !QFileInfo::exists(name))
         return wanted + ": there is no controller of this name; --list shows the names";
     const QString path = QFileInfo(name).canonicalFilePath();

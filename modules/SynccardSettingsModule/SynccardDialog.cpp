@@ -38,7 +38,10 @@ SynccardDialog::~SynccardDialog()
     delete timer;
 }
 
-/** A wheel that is meant for the window would otherwise change a control that happens to lie under the pointer. */
+/**
+ * Lets selectors and spin boxes take the wheel only while they have the focus. Without it, a wheel that is meant for
+ * the window would change whatever lies under the pointer.
+ */
 void SynccardDialog::takeWheelWithFocusAlone()
 {
     const QList<QWidget*> controls = {comboBox_modes, comboBox_source, comboBox_output, doubleSpinBox_frequency,
@@ -75,7 +78,7 @@ int SynccardDialog::update_and_exec()
     const int result =
         isProtocolAtLeast(0, 13) ? update_and_exec_prot_version_0_13() : update_and_exec_prot_version_0_8();
     if (self)
-        endStep(); // a failed read has left the opening under way
+        endStep(); // After a failed read the opening is still under way.
     return result;
 }
 

@@ -122,6 +122,7 @@ private:
     // One step at a time: SynccardDialog_steps.cpp
     bool beginOpening();
     int run();
+    int exec() override;
     bool beginStep();
     bool beginSource();
     bool beginExit(DialogCode exit);
@@ -137,11 +138,11 @@ private:
     QWidget* m_parent = nullptr;
     bool bSynccardAvailable = false;
     DoubleSpinboxDelegate doubleSpinboxDelegate;
-    bool bUserAction = false; // from the exec() of an opening until an exit begins or the dialog is hidden
+    bool bUserAction = false; // from an opening's exec() until it ends, an exit begins or the dialog is hidden
     bool bSomethingChanged = false;
     SynccardList synccards;
     SynccardList previousSettings;
-    QString sSentSource; // last sent since the snapshot was taken, or that of the snapshot
+    QString sSentSource; // the last source sent, or that of a later snapshot
     bool m_is_config_locked = false;
     QIcon m_icon_lock;
     bool bBusy = false;      // a step is under way

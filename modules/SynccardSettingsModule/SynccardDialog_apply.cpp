@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Results of saveDirectSettings(). Its caller only asks for Saved. The other numbers, without 5 and 6, are agreed. */
+/** Results of saveDirectSettings(). Their numbers are part of the contract; 5 and 6 are not used. */
 enum SaveResult {
     Saved = 0,
     DirectSettingsFailed = 1,
@@ -83,6 +83,7 @@ int SynccardDialog::saveSource(const Synccard& card)
     }
     if (!answer.isYes())
         return SourceNotSupported;
+    sSentSource = card.activeSource();
     if (cm->setParameter("synccard source d%2.2d %s", number, source.constData()) != 0) {
         reportError(cm, QStringLiteral("Error: Unable to set Synccard source"));
         return SourceFailed;

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int rowHeight = 28;                // pixels
+constexpr int cardRowHeight = 28;            // pixels
 constexpr int initialModelColumnWidth = 200; // pixels, until cards are listed
 constexpr int modelColumnWidth = 165;        // pixels
 constexpr double defaultFrequencyHz = 60.0;
@@ -38,7 +38,7 @@ void SynccardDialog::setup_tableWidget_synccards()
     tableWidget_synccards->horizontalHeader()->resizeSection(ModelColumn, initialModelColumnWidth);
     tableWidget_synccards->horizontalHeader()->setStretchLastSection(true);
     tableWidget_synccards->setHorizontalHeaderLabels({tr("Model"), tr("Serial")});
-    tableWidget_synccards->verticalHeader()->setDefaultSectionSize(rowHeight);
+    tableWidget_synccards->verticalHeader()->setDefaultSectionSize(cardRowHeight);
     tableWidget_synccards->horizontalHeader()->setSectionsClickable(false);
     tableWidget_synccards->setTabKeyNavigation(false); // Tab goes on to the next control
     tableWidget_synccards->setAccessibleName(tableWidget_synccards->whatsThis());

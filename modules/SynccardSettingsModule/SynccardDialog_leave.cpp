@@ -76,8 +76,8 @@ bool SynccardDialog::warnOfFailedChange()
 }
 
 /**
- * Restores the source, if another one was sent while the dialog was open, and then the frequency or the divisor, which
- * may have changed with it. Does nothing unless the dialog was opened with direct settings and still shows them.
+ * Restores the source, if the last one sent was another, and then the frequency or the divisor, which may have changed
+ * with it. Does nothing unless the dialog was opened with direct settings and still shows them.
  */
 void SynccardDialog::restorePreviousSettings()
 {

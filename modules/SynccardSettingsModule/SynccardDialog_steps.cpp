@@ -6,9 +6,9 @@
 // A channel may run an event loop in a command or in a report, so that input and timers arrive while the dialog works:
 // - An opening, a poll, a new source or an exit begins a step, unless another step is under way or something waits.
 // - A step ends after its last command: that of an opening before exec(), that of an exit when the dialog is closed.
-// - While the dialog is open, a new source waits for the end of the step, and the first exit waits for both.
-// - Other requests are dropped at once, a waiting source by Cancel, all that waits when the dialog hides or exec()
-// ends.
+// - During an opened dialog's poll or new source, another new source waits for its end, and the first exit for both.
+// - Cancel drops a source that waits. Hiding the dialog, or the end of exec(), drops everything that waits.
+// Any other request is dropped at once.
 
 /** Refuses an opening during another step, while something waits, and until the exec() of an earlier one returns. */
 bool SynccardDialog::beginOpening()
@@ -19,17 +19,24 @@ bool SynccardDialog::beginOpening()
     return true;
 }
 
-/** Runs the dialog modally. The dialog may be gone when exec() returns. */
+/** Ends the opening and runs the dialog modally. */
 int SynccardDialog::run()
 {
     hide(); // exec() is not modal if the host has shown the dialog, which it may have done during the reads
+    setWindowState(windowState() & ~Qt::WindowMinimized); // a minimized dialog would be modal, but out of sight
     endStep();
-    bExecuting = true;
     bUserAction = bSynccardAvailable;
     if (bSynccardAvailable)
         timer->start();
+    return exec();
+}
+
+/** The host may call exec(), too. The dialog may be gone when QDialog::exec() returns. */
+int SynccardDialog::exec()
+{
+    bExecuting = true;
     const QPointer<SynccardDialog> self(this);
-    const int result = exec();
+    const int result = QDialog::exec();
     if (self) {
         bExecuting = false;
         stopInput();
@@ -52,7 +59,7 @@ bool SynccardDialog::beginSource()
     return !bSourceWaits;
 }
 
-/** Begins an exit, or lets it wait if it is the first one. */
+/** Begins an exit. During another step the first exit waits, if the dialog was opened by update_and_exec(). */
 bool SynccardDialog::beginExit(DialogCode exit)
 {
     if (beginStep()) {
@@ -75,7 +82,7 @@ void SynccardDialog::endStep()
         waitTimer.start();
 }
 
-/** Closes the dialog at the end of an exit, unless the host has hidden it meanwhile. The host may delete it then. */
+/** Closes the dialog at the end of an exit, unless the host has hidden it meanwhile. done() may delete the dialog. */
 void SynccardDialog::endExit(DialogCode exit)
 {
     const QPointer<SynccardDialog> self(this);
@@ -85,7 +92,10 @@ void SynccardDialog::endExit(DialogCode exit)
         bBusy = false;
 }
 
-/** Writes the source that is shown now, except before Cancel. Then leaves, if an exit waits and no source any more. */
+/**
+ * Writes the source that is shown now, unless Cancel waits. An exit that waits follows: at once if no source was
+ * written, else when this function is called again.
+ */
 void SynccardDialog::carryOutWaiting()
 {
     const bool isSourceWritten = bSourceWaits && waitingExit != Rejected;

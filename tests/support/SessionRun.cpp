@@ -3,6 +3,7 @@
 #include "ControllerVocabulary.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QRegularExpression>
@@ -19,6 +20,19 @@ QString unknownWidget(const LoadedModule& module, const QByteArray& name)
     for (const QString& line : lines)
         names.append(line.section(':', 0, 0).toUtf8());
     return "widget " + unknown(name, names);
+}
+
+/** Turns the wheel over \a widget and its line edit, as the window system does, because only then Qt moves the focus.
+ */
+void turnWheel(QWidget* widget)
+{
+    const QList<QWidget*> places = widget->findChildren<QWidget*>("qt_spinbox_lineedit") + QList<QWidget*>{widget};
+    for (QWidget* place : places) {
+        const QPoint center = place->rect().center();
+        QWheelEvent event(center, center, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        QApplication::instance()->notify(place, &event);
+    }
 }
 
 Qt::Key keyOf(const QByteArray& name)
@@ -53,7 +67,7 @@ QString walk(const QDialog* dialog, Qt::Key key)
 
 QString act(LoadedModule& module, const SessionLine& line)
 {
-    static const QByteArrayList onWidgets = {"key", "choose", "deselect"};
+    static const QByteArrayList onWidgets = {"key", "choose", "deselect", "focus", "wheel"};
     static const QByteArrayList onCells = {"click", "delay", "text", "take"};
     const QByteArrayList words = line.text.split(' ');
     const QByteArray& action = words.first();
@@ -70,6 +84,8 @@ QString act(LoadedModule& module, const SessionLine& line)
     const QMap<QByteArray, std::function<void()>> actions = {
         {"key", [&] { QTest::keyClick(widget, keyOf(words.value(2))); }},
         {"choose", [&] { isDone = user.choose(words.at(1), words.mid(2).join(' ')); }},
+        {"focus", [&] { widget->setFocus(); }},
+        {"wheel", [&] { turnWheel(widget); }},
         {"deselect", [&] { qobject_cast<QComboBox*>(widget)->setCurrentIndex(-1); }},
         {"click", [&] { user.clickCell(row, column); }},
         {"delay", [&] { DialogUser::type(user.editDelay(row), words.value(2), keyOf(words.value(3, "Tab"))); }},
