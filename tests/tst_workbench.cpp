@@ -123,12 +123,12 @@ void TestWorkbench::logsInOrder()
     windows.type(windows.log->filter(), "FAILED");
     QCOMPARE(windows.rows->rowCount(), 2);
     auto* sum = windows.workbench.findChild<LogPane*>()->findChildren<QLabel*>().value(1);
-    QTRY_VERIFY(QRegularExpression("^2 of \\d+ rows, 2 commands, ").match(sum->text()).hasMatch());
+    QTRY_VERIFY(sum->text().startsWith("2 of ") && sum->text().contains(" rows, 2 commands, "));
     windows.log->selectRow(1);
-    QTRY_VERIFY(QRegularExpression("^1 of \\d+ rows, 1 command, ").match(sum->text()).hasMatch());
+    QTRY_VERIFY(sum->text().startsWith("1 of ") && sum->text().contains(" rows, 1 command, "));
     windows.log->setFocus();
     QTest::keyClick(windows.log, Qt::Key_C, Qt::ControlModifier);
-    const QRegularExpression copied("^[\\d:.]+\tget\tsynccard input_frequency\t\tfailed\t[\\d.]+ ms\n$");
+    static const QRegularExpression copied("^[\\d:.]+\tget\tsynccard input_frequency\t\tfailed\t[\\d.]+ ms\n$");
     QVERIFY(copied.match(QApplication::clipboard()->text()).hasMatch());
 }
 
@@ -171,7 +171,8 @@ void TestWorkbench::makesFaults()
     Windows windows;
     const Faults& faults = windows.host.faults();
     QLineEdit* pattern = nullptr;
-    for (QLineEdit* field : windows.workbench.findChildren<QLineEdit*>())
+    const QList<QLineEdit*> fields = windows.workbench.findChildren<QLineEdit*>();
+    for (QLineEdit* field : fields)
         pattern = field->placeholderText().isEmpty() ? pattern : field;
     windows.type(pattern, "output_(");
     QCOMPARE(faults.failing().pattern(), QString("output_"));
