@@ -111,7 +111,7 @@ void ControllerPane::showLine(int row, const QString& line)
     font.setBold(isChanged);
     for (const int column : {CommandColumn, AnswerColumn}) {
         auto* item = new QStandardItem(cellOf(line, column));
-        item->setToolTip(item->text());
+        item->setToolTip(FilteredTable::toolTip(item->text()));
         item->setText(item->text() + (isChanged && column == CommandColumn ? " *" : ""));
         item->setFont(font);
         item->setData(line, FilteredTable::lineRole);

@@ -57,3 +57,8 @@ void FilteredTable::copy() const
         lines.append(row.data(lineRole).toString() + '\n');
     QApplication::clipboard()->setText(lines.join(QString()));
 }
+
+QString FilteredTable::toolTip(const QString& text)
+{
+    return text.isEmpty() ? QString() : "<p>" + text.toHtmlEscaped() + "</p>"; // Only rich text is wrapped.
+}

@@ -26,6 +26,9 @@ public:
     QModelIndexList chosenRows() const;
     void copy() const;
 
+    /** Returns a tool tip that shows \a text as it is, in lines of a readable length. */
+    static QString toolTip(const QString& text);
+
 private:
     QSortFilterProxyModel shown;
     QLineEdit* filterText;

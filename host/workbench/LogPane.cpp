@@ -81,7 +81,7 @@ void LogPane::addRow(const QStringList& texts, bool isBold, const QVariant& mill
     QList<QStandardItem*> row;
     for (const QString& text : all) {
         auto* item = new QStandardItem(text);
-        item->setToolTip(text);
+        item->setToolTip(FilteredTable::toolTip(text));
         if (isBold)
             item->setFont(font);
         row.append(item);

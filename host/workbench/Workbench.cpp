@@ -14,6 +14,7 @@ static constexpr QSize initialSize(960, 560);
 
 Workbench::Workbench(DevelopmentHost* host)
 {
+    setAttribute(Qt::WA_AlwaysShowToolTips); // even while the dialog is the active window
     const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     resize(initialSize.boundedTo(QGuiApplication::primaryScreen()->availableSize() - frame));
     connect(host, &DevelopmentHost::noted, this, [this, host] { setWindowTitle(host->title() + " - Workbench"); });
