@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <cerrno>
 #include <clocale>
 #include <csignal>
 #include <sys/resource.h>
@@ -140,7 +141,7 @@ void TestController::savesControllers()
     const QString problem = saveTable(file, full());
     setrlimit(RLIMIT_FSIZE, &limit);
     std::signal(SIGXFSZ, previous);
-    QCOMPARE(problem, file + ": File too large");
+    QCOMPARE(problem, file + ": " + qt_error_string(EFBIG));
     QCOMPARE(readFile(file), before);
 }
 
