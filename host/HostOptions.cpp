@@ -45,7 +45,7 @@ static QStringList takeArguments(int& argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         const QString text = QString::fromLocal8Bit(argv[i]);
         if (text.startsWith('-'))
-            isQts = text.size() > 2 && text.at(1) != '-';
+            isQts = text.size() > 2 && text.at(1).isLetter();
         if (isQts)
             argv[kept++] = argv[i];
         else
