@@ -66,6 +66,7 @@ struct Windows
     /** Returns the log without times: "get|synccard available|yes|ok". */
     QStringList lines() const
     {
+        QCoreApplication::processEvents();
         QStringList lines;
         for (int row = 0; row < rows->rowCount(); ++row)
             lines +=
@@ -110,7 +111,7 @@ void TestWorkbench::logsInOrder()
     QVERIFY(windows.rows->index(lines.size() - 2, 2).data(Qt::FontRole).value<QFont>().bold());
     windows.host.faults().failMatching(QRegularExpression(" input_frequency"));
     windows.open([&] {
-        const int before = windows.rows->rowCount();
+        const int before = windows.lines().size();
         windows.poll();
         QCOMPARE(windows.lines().value(before), QString("get|synccard input_frequency||failed"));
         QCOMPARE(windows.rows->rowCount(), before + 2);

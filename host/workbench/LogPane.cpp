@@ -48,6 +48,8 @@ LogPane::LogPane(DevelopmentHost* host)
                        true);
             });
     connect(host, &DevelopmentHost::noted, this, [this](auto& text) { addRow({"note", text, {}, {}, {}}, true); });
+    showing.setSingleShot(true);
+    connect(&showing, &QTimer::timeout, this, &LogPane::showPending);
     summing.setSingleShot(true);
     summing.setInterval(sumMilliseconds);
     connect(&summing, &QTimer::timeout, this, &LogPane::sumUp);
@@ -67,6 +69,7 @@ void LogPane::addCommand(const CommandRecord& record)
            hasFailed, milliseconds, traitsOf(record.text()).isPolled && !hasFailed);
     if (milliseconds < slowMilliseconds)
         return;
+    showPending();
     if (followsEnd)
         table->scrollToBottom();
     table->viewport()->repaint();
@@ -75,21 +78,29 @@ void LogPane::addCommand(const CommandRecord& record)
 /** Adds a row with the present time and \a texts. */
 void LogPane::addRow(const QStringList& texts, bool isBold, const QVariant& milliseconds, bool isPoll)
 {
-    const QStringList all = QStringList(QTime::currentTime().toString("HH:mm:ss.zzz")) + texts;
-    QFont font;
-    font.setBold(isBold);
-    QList<QStandardItem*> row;
-    for (const QString& text : all) {
-        auto* item = new QStandardItem(text);
-        item->setToolTip(FilteredTable::toolTip(text));
-        if (isBold)
-            item->setFont(font);
-        row.append(item);
+    const QString time = QTime::currentTime().toString("HH:mm:ss.zzz");
+    pending.append({QStringList(time) + texts, isBold, milliseconds, isPoll});
+    showing.start();
+}
+
+void LogPane::showPending()
+{
+    QFont bold;
+    bold.setBold(true);
+    for (const Row& row : qAsConst(pending)) {
+        QList<QStandardItem*> items;
+        for (const QString& text : row.texts) {
+            items.append(new QStandardItem(text));
+            items.last()->setToolTip(FilteredTable::toolTip(text));
+            if (row.isBold)
+                items.last()->setFont(bold);
+        }
+        items.first()->setData(row.texts.join('\t'), FilteredTable::lineRole);
+        items.first()->setData(row.isPoll ? "poll" : "row", KindRole);
+        items.first()->setData(row.milliseconds, DurationRole);
+        log.appendRow(items);
     }
-    row.first()->setData(all.join('\t'), FilteredTable::lineRole);
-    row.first()->setData(isPoll ? "poll" : "row", KindRole);
-    row.first()->setData(milliseconds, DurationRole);
-    log.appendRow(row);
+    pending.clear();
 }
 
 void LogPane::setColumnWidths()
@@ -121,7 +132,10 @@ QBoxLayout* LogPane::createFooter()
     auto* copy = new QPushButton("Co&py");
     connect(copy, &QPushButton::clicked, table, &FilteredTable::copy);
     auto* clear = new QPushButton("Cl&ear");
-    connect(clear, &QPushButton::clicked, this, [this] { log.removeRows(0, log.rowCount()); });
+    connect(clear, &QPushButton::clicked, this, [this] {
+        showPending();
+        log.removeRows(0, log.rowCount());
+    });
     auto* row = new QHBoxLayout;
     row->addWidget(sum, 1);
     row->addWidget(hidePolls);

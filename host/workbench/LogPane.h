@@ -24,13 +24,25 @@ public:
 
 private:
     void addCommand(const CommandRecord& record);
+    /** A row that is not in the table yet. */
+    struct Row
+    {
+        QStringList texts;
+        bool isBold;
+        QVariant milliseconds; // of a command
+        bool isPoll;
+    };
+
     void addRow(const QStringList& texts, bool isBold, const QVariant& milliseconds = {}, bool isPoll = false);
+    void showPending();
     void setColumnWidths();
     void followEnd();
     QBoxLayout* createFooter();
     void sumUp();
 
     QStandardItemModel log;
+    QVector<Row> pending; // shown together from the event loop, so that the log slows no opening down
+    QTimer showing;
     QSortFilterProxyModel* unpolled; // without the polls, if they are hidden
     FilteredTable* table;
     QLabel* sum;
