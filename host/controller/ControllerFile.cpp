@@ -24,7 +24,7 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
     if (!files.isEmpty())
         name = QFileInfo(files.first()).dir().filePath(name);
     if (isName && !QFileInfo::exists(name))
-        return wanted + ": there is no controller of this name; --list shows the names";
+        return wanted + ": not the name of a controller; --list shows the names";
     const QString path = QFileInfo(name).canonicalFilePath();
     if (files.contains(path))
         return name + ": leads back to itself";
