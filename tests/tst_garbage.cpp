@@ -124,7 +124,7 @@ void actAtRandom(const LoadedModule& module, GarbageLink* garbage)
 void openAtRandom(LoadedModule& module, GarbageLink* garbage, QMap<int, int>* results)
 {
     garbage->random.seed(static_cast<quint32>(seed));
-    module.versions = backend(garbage->anyOf<QString>({"0.9", "1.4", "1.10 QUILLSTONE", "1.23", "1.23"}));
+    module.versions = backend(garbage->anyOf<QString>({"0.9", "1.4", "1.10 QUILLSTONE", "newest", "newest"}));
     int result = -3;
     QMetaObject::invokeMethod(module.dialog(), "update_and_exec", Q_RETURN_ARG(int, result));
     ++(*results)[result];

@@ -3,8 +3,10 @@
 #include "ControllerVocabulary.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QTableWidget>
 
@@ -49,11 +51,21 @@ QString walk(const QDialog* dialog, Qt::Key key)
     return reached == expected ? QString() : "reached " + reached.join(' ') + " instead of " + expected.join(' ');
 }
 
+/** Turns the mouse wheel over \a widget as the window system does. Only then Qt may move the focus. */
+void turnWheel(QWidget* widget)
+{
+    const QPointF center = widget->rect().center();
+    QWheelEvent event(center, widget->mapToGlobal(center.toPoint()), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QApplication::instance()->notify(widget, &event);
+}
+
 } // namespace
 
 QString act(LoadedModule& module, const SessionLine& line)
 {
-    static const QByteArrayList onWidgets = {"key", "choose", "deselect"};
+    static const QByteArrayList onWidgets = {"key", "choose", "deselect", "wheel"};
     static const QByteArrayList onCells = {"click", "delay", "text", "take"};
     const QByteArrayList words = line.text.split(' ');
     const QByteArray& action = words.first();
@@ -61,7 +73,7 @@ QString act(LoadedModule& module, const SessionLine& line)
     const int column = action == "delay" ? 1 : words.value(2).toInt();
     const DialogUser user = module.user();
     QDialog* dialog = module.dialog();
-    auto* widget = module.find<QWidget>(words.value(1));
+    auto* widget = module.find<QWidget>(words.value(action == "press" ? 2 : 1));
     auto* table = module.find<QTableWidget>("tableWidget_channels");
     const auto run = [&](const char* slot) { QMetaObject::invokeMethod(dialog, slot); };
     const auto leaveHidden = [&] { run(words.value(1) == "OK" ? "accept" : "reject"); };
@@ -70,11 +82,24 @@ QString act(LoadedModule& module, const SessionLine& line)
     const QMap<QByteArray, std::function<void()>> actions = {
         {"key", [&] { QTest::keyClick(widget, keyOf(words.value(2))); }},
         {"choose", [&] { isDone = user.choose(words.at(1), words.mid(2).join(' ')); }},
+        {"wheel",
+         [&] {
+             const QWidget* focus = dialog->focusWidget();
+             turnWheel(widget);
+             if (auto* edit = widget->findChild<QLineEdit*>())
+                 turnWheel(edit);
+             isDone = dialog->focusWidget() == focus;
+         }},
         {"deselect", [&] { qobject_cast<QComboBox*>(widget)->setCurrentIndex(-1); }},
         {"click", [&] { user.clickCell(row, column); }},
         {"delay", [&] { DialogUser::type(user.editDelay(row), words.value(2), keyOf(words.value(3, "Tab"))); }},
         {"text", [&] { table->item(row, column)->setText(words.value(3)); }},
         {"take", [&] { delete table->takeItem(row, column); }},
+        {"press",
+         [&] {
+             QTest::keySequence(dialog, QString(words.value(1)));
+             isDone = dialog->focusWidget() == widget;
+         }},
         {"walk", [&] { problem = walk(dialog, keyOf(words.value(1))); }},
         {"poll", [&] { run("poll_input_frequency"); }},
         {"answer", [&] { problem = module.link.script(line.text.mid(action.size() + 1), line.number); }},
@@ -93,6 +118,22 @@ QString act(LoadedModule& module, const SessionLine& line)
     if (isPossible)
         actions.value(action)();
     return isPossible && isDone ? problem : '"' + line.text + "\" cannot be done";
+}
+
+QString difference(const QByteArrayList& found, const QByteArrayList& expected, int* position)
+{
+    int i = 0;
+    while (i < found.size() && i < expected.size() && found.at(i) == expected.at(i))
+        ++i;
+    if (position)
+        *position = i;
+    if (i == found.size() && i == expected.size())
+        return {};
+    const auto wanted = [&](int at) { return QString(expected.value(at, "(the end)")); };
+    const auto came = [&](int at) { return QString(found.value(at, "(the end)")); };
+    return QString("differ at number %1:\n    %2\n  - %3\n  + %4\n    then %5 / %6")
+        .arg(QString::number(i + 1), i > 0 ? came(i - 1) : "(the beginning)", wanted(i), came(i), wanted(i + 1),
+             came(i + 1));
 }
 
 QByteArrayList SessionRun::keys()
@@ -126,7 +167,11 @@ QString SessionRun::problemOf(const Session& session)
                 return session.problem("nothing asks for this answer: " + line.text, line.number);
         }
     }
-    return {};
+    static const QRegularExpression silent("^(again-)?(protocol|answer|later|leaves)$");
+    const QByteArrayList keys = session.lines.keys();
+    const bool isSilent =
+        std::all_of(keys.begin(), keys.end(), [](const QByteArray& key) { return QString(key).contains(silent); });
+    return isSilent ? session.problem("the case does not say what is asked, shown or done") : QString();
 }
 
 /** One opening, as the lines whose keys begin with \a newPrefix say, and leaving it by \a newWay. */
@@ -135,7 +180,7 @@ void SessionRun::open(const QByteArray& newPrefix, const QByteArray& newWay)
     prefix = newPrefix;
     way = newWay;
     isOk = false;
-    module.connectTo(session.text(prefix + "protocol", session.text("protocol", "1.23")));
+    module.connectTo(session.text(prefix + "protocol", session.text("protocol", "newest")));
     answer("answer");
     interruptions = lines("during");
     module.link.during = [this](const QByteArray& text) { interrupt(text); };
@@ -150,7 +195,7 @@ void SessionRun::open(const QByteArray& newPrefix, const QByteArray& newWay)
     demand(result == expected, QString("update_and_exec() returns %1 instead of %2").arg(result).arg(expected));
     const QByteArray exit = isOk ? "ok" : "cancel";
     compareLines("commands after the opening", module.link.takeCommands(), lines("sends") + lines(exit));
-    compareLines("reports after the opening", module.link.takeReports(),
+    compareLines("reports after the opening", std::exchange(module.link.reports, {}),
                  lines("sends-report") + lines(exit + "-report"));
     compareLines("boxes", std::exchange(module.boxes, {}), lines(exit + "-box"));
 }
@@ -188,7 +233,7 @@ void SessionRun::compareOpening()
     const QByteArrayList commands = module.link.takeCommands();
     if (!lines("asks").isEmpty())
         compareLines("commands of the opening", commands, asked);
-    compareLines("reports of the opening", module.link.takeReports(), lines("report"));
+    compareLines("reports of the opening", std::exchange(module.link.reports, {}), lines("report"));
     compareWidgets("shows");
 }
 
@@ -205,20 +250,15 @@ void SessionRun::compareWidgets(const QByteArray& key)
     }
 }
 
-/** Names the first line that differs, with its neighbours: "-" is what was expected, "+" what came in its place. */
 void SessionRun::compareLines(const QString& what, const QByteArrayList& found, const SessionLines& expected)
 {
-    int i = 0;
-    while (i < found.size() && i < expected.size() && found.at(i) == expected.at(i).text)
-        ++i;
-    const SessionLine end = {"(the end)", 0};
-    const auto wanted = [&](int at) { return QString(expected.value(at, end).text); };
-    const auto came = [&](int at) { return QString(found.value(at, end.text)); };
-    const QString message = QString("leaving by %1, %2 differ at number %3:\n    %4\n  - %5\n  + %6\n    then %7 / %8");
-    demand(i == found.size() && i == expected.size(),
-           message.arg(QString(way), what, QString::number(i + 1), i > 0 ? came(i - 1) : "(the beginning)", wanted(i),
-                       came(i), wanted(i + 1), came(i + 1)),
-           expected.value(i, end).number);
+    QByteArrayList texts;
+    for (const SessionLine& line : expected)
+        texts.append(line.text);
+    int position = 0;
+    const QString problem = difference(found, texts, &position);
+    demand(problem.isEmpty(), QString("leaving by %1, %2 %3").arg(QString(way), what, problem),
+           expected.value(position, {{}, 0}).number);
 }
 
 /** Does what a line "during TEXT -> ACTION" says, once, in the first command or report that is this text. */
