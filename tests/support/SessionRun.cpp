@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QLineEdit>
 #include <QRegularExpression>
 #include <QTableWidget>
 
@@ -14,58 +13,45 @@
 
 namespace {
 
-QString unknownWidget(const LoadedModule& module, const QByteArray& name)
-{
-    QByteArrayList names;
-    const QStringList lines = textOfDialog(module.dialog());
-    for (const QString& line : lines)
-        names.append(line.section(':', 0, 0).toUtf8());
-    return "widget " + unknown(name, names);
-}
-
 Qt::Key keyOf(const QByteArray& name)
 {
     return Qt::Key(QKeySequence(QString(name))[0]);
 }
 
-/** Walks once round the dialog by \a key: each control that is enabled is reached once, and has a spoken name. */
-QString walk(const QDialog* dialog, Qt::Key key)
+/** Walks round the dialog by Tab, then back. It must reach \a controls in this order, each with a spoken name. */
+QString walk(const QDialog* dialog, const QByteArrayList& controls)
 {
-    QStringList expected;
-    QStringList reached;
-    static const QRegularExpression ours("^(?!qt_)");
-    const QList<QWidget*> widgets = dialog->findChildren<QWidget*>(ours);
-    for (const QWidget* widget : widgets) {
-        const bool takesFocus = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
-        if (takesFocus && widget->isVisible() && widget->isEnabled())
-            expected.append(widget->objectName());
+    QByteArrayList reached;
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        for (int i = 0; i < controls.size(); ++i) {
+            QWidget* focus = dialog->focusWidget();
+            const QString spoken = QAccessible::queryAccessibleInterface(focus)->text(QAccessible::Name);
+            reached.append(focus->objectName().toUtf8() + (spoken.isEmpty() ? " without a name" : ""));
+            QTest::keyClick(focus, key, key == Qt::Key_Tab ? Qt::NoModifier : Qt::ShiftModifier);
+        }
     }
-    for (int i = 0; i < expected.size(); ++i) {
-        QWidget* focus = dialog->focusWidget();
-        const QString spoken = QAccessible::queryAccessibleInterface(focus)->text(QAccessible::Name);
-        reached.append(focus->objectName() + (spoken.isEmpty() ? " without a name" : ""));
-        QTest::keyClick(focus, key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
-    }
-    expected.sort();
-    reached.sort();
-    return reached == expected ? QString() : "reached " + reached.join(' ') + " instead of " + expected.join(' ');
+    QByteArrayList expected = controls + controls.mid(0, 1);
+    for (int i = controls.size() - 1; i > 0; --i)
+        expected.append(controls.at(i));
+    return difference(reached, expected);
 }
 
 /** Turns the mouse wheel over \a widget as the window system does. Only then Qt may move the focus. */
 void turnWheel(QWidget* widget)
 {
-    const QPointF center = widget->rect().center();
-    QWheelEvent event(center, widget->mapToGlobal(center.toPoint()), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+    const QPoint center = widget->rect().center();
+    QWidget* child = widget->childAt(center);
+    QWheelEvent event(center, widget->mapToGlobal(center), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&event);
-    QApplication::instance()->notify(widget, &event);
+    QApplication::instance()->notify(child ? child : widget, &event);
 }
 
 } // namespace
 
 QString act(LoadedModule& module, const SessionLine& line)
 {
-    static const QByteArrayList onWidgets = {"key", "choose", "deselect", "wheel"};
+    static const QByteArrayList onWidgets = {"key", "choose", "deselect", "wheel", "press"};
     static const QByteArrayList onCells = {"click", "delay", "text", "take"};
     const QByteArrayList words = line.text.split(' ');
     const QByteArray& action = words.first();
@@ -73,7 +59,7 @@ QString act(LoadedModule& module, const SessionLine& line)
     const int column = action == "delay" ? 1 : words.value(2).toInt();
     const DialogUser user = module.user();
     QDialog* dialog = module.dialog();
-    auto* widget = module.find<QWidget>(words.value(action == "press" ? 2 : 1));
+    auto* widget = module.find<QWidget>(words.value(1));
     auto* table = module.find<QTableWidget>("tableWidget_channels");
     const auto run = [&](const char* slot) { QMetaObject::invokeMethod(dialog, slot); };
     const auto leaveHidden = [&] { run(words.value(1) == "OK" ? "accept" : "reject"); };
@@ -82,25 +68,14 @@ QString act(LoadedModule& module, const SessionLine& line)
     const QMap<QByteArray, std::function<void()>> actions = {
         {"key", [&] { QTest::keyClick(widget, keyOf(words.value(2))); }},
         {"choose", [&] { isDone = user.choose(words.at(1), words.mid(2).join(' ')); }},
-        {"wheel",
-         [&] {
-             const QWidget* focus = dialog->focusWidget();
-             turnWheel(widget);
-             if (auto* edit = widget->findChild<QLineEdit*>())
-                 turnWheel(edit);
-             isDone = dialog->focusWidget() == focus;
-         }},
+        {"wheel", [&] { turnWheel(widget); }},
         {"deselect", [&] { qobject_cast<QComboBox*>(widget)->setCurrentIndex(-1); }},
         {"click", [&] { user.clickCell(row, column); }},
         {"delay", [&] { DialogUser::type(user.editDelay(row), words.value(2), keyOf(words.value(3, "Tab"))); }},
         {"text", [&] { table->item(row, column)->setText(words.value(3)); }},
         {"take", [&] { delete table->takeItem(row, column); }},
-        {"press",
-         [&] {
-             QTest::keySequence(dialog, QString(words.value(1)));
-             isDone = dialog->focusWidget() == widget;
-         }},
-        {"walk", [&] { problem = walk(dialog, keyOf(words.value(1))); }},
+        {"press", [&] { QTest::keySequence(dialog, QString(words.value(2))); }},
+        {"walk", [&] { problem = walk(dialog, words.mid(1)); }},
         {"poll", [&] { run("poll_input_frequency"); }},
         {"answer", [&] { problem = module.link.script(line.text.mid(action.size() + 1), line.number); }},
         {"leave", [&] { dialog->isVisible() ? user.leave(words.value(1)) : leaveHidden(); }},
@@ -111,12 +86,13 @@ QString act(LoadedModule& module, const SessionLine& line)
         {"exit-module", [&] { module.loader.module()->exit_module(); }}};
     if (!actions.contains(action))
         return "action " + unknown(action, actions.keys());
-    if (onWidgets.contains(action) && !widget)
-        return unknownWidget(module, words.value(1));
-    const bool isPossible = onWidgets.contains(action) ? widget->isVisible() && widget->isEnabled()
+    const bool isPossible = onWidgets.contains(action) ? widget && widget->isVisible() && widget->isEnabled()
                                                        : !onCells.contains(action) || table->item(row, column);
+    const QWidget* focus = action == "press" ? widget : dialog->focusWidget();
     if (isPossible)
         actions.value(action)();
+    if (action == "press" || action == "wheel")
+        isDone = dialog->focusWidget() == focus;
     return isPossible && isDone ? problem : '"' + line.text + "\" cannot be done";
 }
 
@@ -242,8 +218,6 @@ void SessionRun::compareWidgets(const QByteArray& key)
     const SessionLines expected = lines(key);
     for (const SessionLine& line : expected) {
         const QByteArray name = line.text.left(line.text.indexOf(':'));
-        if (!module.find<QWidget>(name))
-            return demand(false, unknownWidget(module, name), line.number);
         const QByteArray content = module.see(name);
         const QByteArray found = name + ':' + (content.isEmpty() ? "" : " ") + content;
         demand(found == line.text, "expected " + line.text + "\n  found    " + found, line.number);
