@@ -114,7 +114,7 @@ void Layers::take(const QString& step)
     const QString rest = step.section(' ', 1);
     const QMap<QString, std::function<void()>> deeds = {
         {"use", [&] { controller.setTable(tableOf(DATA_DIR "/" + rest)); }},
-        {"describe", [&] { hear(controller.table().description); }},
+        {"describe", [&] { hear(QString(controller.table().description).remove(QRegularExpression("\\d+ more "))); }},
         {"fill", [&] { hear(change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x'))); }},
         {"changes", [&] { hear(QString::number(std::exchange(changes, 0))); }},
         {"nth", [&] { faults.failNth(rest.toInt()); }},
