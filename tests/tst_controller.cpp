@@ -50,7 +50,7 @@ ControllerTable tableOf(const QString& name)
 class Layers : public QObject
 {
 public:
-    /** Replays the recording in \a file; without a file it answers as the controller "full". */
+    /** Replays the recording in \a file. Without a file it answers as the controller "full". */
     explicit Layers(const QString& file);
 
     /** Takes a step of data/commands.txt. */
@@ -60,9 +60,8 @@ public:
 
 private:
     void hear(const QString& text);
-    QString change(const QString& line);
-    QString withoutTimes(const QString& lines) const;
-    void connectTo(const QByteArray& text);
+    void change(const QString& line);
+    void readLines(const QString& file);
     void carryOut(const QString& operation, const QByteArray& command);
 
     QTemporaryDir folder;
@@ -71,9 +70,8 @@ private:
     Faults faults;
     Recorder recorder{&faults};
     ControllerChannel channel{&recorder};
-    QByteArrayList logged; // text, answer and result of the last command
-    bool isTimed = false;  // The last command took as long as it had to.
-    int changes = 0;       // of the controller's table
+    QString logged;  // the last command
+    int changes = 0; // of the controller's table
 };
 
 Layers::Layers(const QString& file)
@@ -81,19 +79,19 @@ Layers::Layers(const QString& file)
 {
     hear(file.isEmpty() ? QString() : replay.open());
     connect(&channel, &ControllerChannel::executed, this, [this](const CommandRecord& record) {
-        logged = {record.text(), record.answer, QByteArray::number(record.result)};
         const qint64 milliseconds = record.microseconds / 1000;
-        isTimed = milliseconds >= faults.latency() - 1 && milliseconds < 10000;
-        hear(channel.isBusy() ? "busy" : "");
+        const bool isTimed = milliseconds >= faults.latency() - 1 && milliseconds < 10000;
+        logged = QString("%1, %2, %3%4%5")
+                     .arg(record.text(), QByteArray::number(record.result), record.answer,
+                          isTimed ? "" : ", wrong time", channel.isBusy() ? ", busy" : "");
     });
     connect(&channel, &ControllerChannel::reported, this,
             [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
-                hear(QStringList{category, systemTag, QString::number(flag), message}.join(", "));
+                hear(QString("%1, %2, %3, %4").arg(category, systemTag, QString::number(flag), message));
             });
     connect(&faults, &Faults::waiting, this, [this](bool isBegin) {
         hear(QString(channel.isBusy() ? "" : "idle, ") + (isBegin ? "waits" : "waited"));
-        if (isBegin)
-            QTimer::singleShot(0, this, [this] { hear("events"); });
+        QTimer::singleShot(0, this, [this] { hear("events"); });
     });
     connect(&controller, &SimulatedController::changed, this, [this] { ++changes; });
     connect(&recorder, &Recorder::started, this, [this] { hear("started"); });
@@ -111,85 +109,82 @@ void Layers::hear(const QString& text)
 void Layers::take(const QString& step)
 {
     const QString file = folder.filePath("a");
+    const QString word = step.section(' ', 0, 0);
     const QString rest = step.section(' ', 1);
+    ControllerIdentity identity;
     const QMap<QString, std::function<void()>> deeds = {
         {"use", [&] { controller.setTable(tableOf(DATA_DIR "/" + rest)); }},
         {"describe", [&] { hear(QString(controller.table().description).remove(QRegularExpression("\\d+ more "))); }},
-        {"fill", [&] { hear(change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x'))); }},
+        {"fill", [&] { change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x')); }},
         {"changes", [&] { hear(QString::number(std::exchange(changes, 0))); }},
         {"nth", [&] { faults.failNth(rest.toInt()); }},
         {"matching", [&] { faults.failMatching(QRegularExpression(rest)); }},
         {"latency", [&] { faults.setLatency(rest.toInt()); }},
         {"tell", [&] { hear(QString::number(faults.latency())); }},
         {"loop", [&] { faults.waitInEventLoop(true); }},
-        {"connect", [&] { connectTo(step.toLatin1()); }},
+        {"connect", [&] { readConnection(step.toLatin1(), &identity) ? recorder.connected(identity) : hear("no"); }},
         {"record", [&] { hear(recorder.start(file)); }},
         {"stop", [&] { recorder.stop(); }},
-        {"lines", [&] { hear(withoutTimes(readFile(file))); }},
+        {"lines", [&] { readLines(file); }},
         {"controller", [&] { hear(connectionText(replay.recordedController())); }},
         {"rewind", [&] { replay.rewind(); }},
         {"end", [&] { hear(replay.isAtEnd() ? "at the end" : "before the end"); }},
         {"report", [&] { channel.reportError("a", "b", 2, rest.toLatin1()); }}};
-    const QString word = step.section(' ', 0, 0);
     if (step.contains(" ="))
-        hear(change(step));
+        change(step);
     else if (deeds.contains(word))
         deeds.value(word)();
     else
         carryOut(word, rest.toLatin1());
 }
 
-/** The lines of a recording. Times are left out if they are as they must be: not zero when commands are delayed. */
-QString Layers::withoutTimes(const QString& lines) const
-{
-    const QString time = faults.latency() > 0 ? "0\\.(?!000)\\d{3}" : "\\d\\.\\d{3}";
-    return lines.trimmed().replace(QRegularExpression("\n([0-9.]+ (?=connect)|" + time + " )"), " | ");
-}
-
 /** Changes the controller by a line of a controller file. */
-QString Layers::change(const QString& line)
+void Layers::change(const QString& line)
 {
     ControllerTable table = controller.table();
-    const QString problem = changeTable(&table, line);
+    hear(changeTable(&table, line));
     controller.setTable(table);
-    return problem;
 }
 
-void Layers::connectTo(const QByteArray& text)
+/** Hears the lines of a recording, without the times. When commands are delayed, a time of zero stays. */
+void Layers::readLines(const QString& file)
 {
-    ControllerIdentity identity;
-    QVERIFY(readConnection(text, &identity));
-    recorder.connected(identity);
+    const QString time = faults.latency() > 0 ? "0\\.(?!000)\\d{3}" : "\\d\\.\\d{3}";
+    const QRegularExpression times("\n([0-9.]+ (?=connect)|" + time + " )");
+    hear(QString(readFile(file)).trimmed().replace(times, " | "));
 }
 
+/** Hears the answer of a command, and what is wrong with its log or with the value that a failure leaves. */
 void Layers::carryOut(const QString& operation, const QByteArray& command)
 {
     char text[300] = {};
     int number = 0;
     double real = 0;
     bool flag = false;
+    const char* const name = command.constData();
     const QMap<QString, std::function<int()>> calls = {
-        {"send", [&] { return channel.sendCommand(text, "%s", command.constData()); }},
-        {"get", [&] { return channel.getParameter(text, "%s", command.constData()); }},
-        {"int", [&] { return channel.getParameterInt(&number, "%s", command.constData()); }},
-        {"double", [&] { return channel.getParameterDouble(&real, "%s", command.constData()); }},
-        {"bool", [&] { return channel.getParameterBool(&flag, "%s", command.constData()); }},
-        {"set", [&] { return channel.setParameter("%s", command.constData()); }}};
+        {"send", [&] { return channel.sendCommand(text, "%s", name); }},
+        {"get", [&] { return channel.getParameter(text, "%s", name); }},
+        {"int", [&] { return channel.getParameterInt(&number, "%s", name); }},
+        {"double", [&] { return channel.getParameterDouble(&real, "%s", name); }},
+        {"bool", [&] { return channel.getParameterBool(&flag, "%s", name); }},
+        {"set", [&] { return channel.setParameter("%s", name); }}};
     const int result = calls.value(operation)();
     const QMap<QString, QByteArray> values = {{"int", QByteArray::number(number)},
                                               {"double", QByteArray::number(real)},
                                               {"bool", flag ? "yes" : "no"},
-                                              {"set", "ok"}};
+                                              {"set", ""}};
     const QByteArray value = values.value(operation, text);
-    const bool hasAnswer = result == 0 && operation != "set";
-    const QByteArrayList expected = {operation.toLatin1() + ' ' + command, hasAnswer ? value : QByteArray(),
-                                     QByteArray::number(result)};
-    if (logged != expected || !isTimed)
-        hear("logged " + logged.join(", "));
-    // A failure leaves a plausible value.
-    const bool isFailure = result == -1 && (value == "yes" || value == "1" || value == "ok");
-    const QString shown = value.size() < 100 ? written(value) : QString("%1 characters").arg(value.size());
-    hear(isFailure ? QString("failed") : result == 0 ? shown : QString("%1: %2").arg(result).arg(shown));
+    const QByteArray plausible = operation == "set" ? "" : number == 1 || real == 1 ? "1" : "yes";
+    const QString expected =
+        QString("%1 %2, %3, %4").arg(operation, command, QByteArray::number(result), result == 0 ? value : "");
+    hear(logged == expected ? QString() : "logged " + logged);
+    if (result != 0)
+        hear(result == -1 && value == plausible ? "failed" : QString("failed, %1, %2").arg(result).arg(QString(value)));
+    else if (value.size() > 99)
+        hear(QString("%1 characters").arg(value.size()));
+    else
+        hear(operation == "set" ? "ok" : written(value));
 }
 
 } // namespace
