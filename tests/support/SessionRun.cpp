@@ -36,15 +36,26 @@ QString walk(const QDialog* dialog, const QByteArrayList& controls)
     return difference(reached, expected);
 }
 
-/** Turns the mouse wheel over \a widget as the window system does. Only then Qt may move the focus. */
+/** Sends \a event as the window system does. */
+void sendBySystem(QWidget* widget, QEvent* event)
+{
+    QSpontaneKeyEvent::setSpontaneous(event);
+    QApplication::instance()->notify(widget, event);
+}
+
 void turnWheel(QWidget* widget)
 {
     const QPoint center = widget->rect().center();
     QWidget* child = widget->childAt(center);
     QWheelEvent event(center, widget->mapToGlobal(center), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    QApplication::instance()->notify(child ? child : widget, &event);
+    sendBySystem(child ? child : widget, &event);
+}
+
+void minimize(QWidget* window)
+{
+    QHideEvent event;
+    sendBySystem(window, &event);
 }
 
 } // namespace
@@ -80,6 +91,7 @@ QString act(LoadedModule& module, const SessionLine& line)
         {"answer", [&] { problem = module.link.script(line.text.mid(action.size() + 1), line.number); }},
         {"leave", [&] { dialog->isVisible() ? user.leave(words.value(1)) : leaveHidden(); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
+        {"minimize", [&] { minimize(dialog); }},
         {"hide", [&] { dialog->hide(); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
         {"delete-parent", [&] { delete module.parent; }},
