@@ -149,7 +149,7 @@ void Layers::change(const QString& line)
 /** Hears the lines of a recording, without the times. When commands are delayed, a time of zero stays. */
 void Layers::readLines(const QString& file)
 {
-    const QString time = faults.latency() > 0 ? "0\\.(?!000)\\d{3}" : "\\d\\.\\d{3}";
+    const QString time = faults.latency() > 0 ? R"(0\.(?!000)\d{3})" : R"(\d\.\d{3})";
     const QRegularExpression times("\n([0-9.]+ (?=connect)|" + time + " )");
     hear(QString(readFile(file)).trimmed().replace(times, " | "));
 }
@@ -253,7 +253,7 @@ void TestController::savesControllers()
     setrlimit(RLIMIT_FSIZE, &small);
     const QString problem = saveTable(file, controllers.first().table);
     setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, previous);
+    static_cast<void>(std::signal(SIGXFSZ, previous));
     QCOMPARE(problem, file + ": " + qt_error_string(EFBIG));
     QCOMPARE(readFile(file), before);
 }

@@ -55,8 +55,10 @@ void TestDialog::isShownAndHiddenByTheHost()
     module.open([&] { module.dialog()->done(QDialog::Rejected); });
     module.dialog()->show();
     module.link.during = [&](const QByteArray& text) {
-        if (text == "get synccard available")
-            source->setCurrentIndex(1);
+        if (text != "get synccard available")
+            return;
+        module.dialog()->show();
+        source->setCurrentIndex(1);
     };
     const int result = module.open([&] {
         module.link.takeCommands();
