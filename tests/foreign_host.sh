@@ -50,7 +50,8 @@ build "$sources" "$folder/plugin"
 build "$sources/examples/minimal-host" "$folder/host" -DCMAKE_CXX_FLAGS="-Wall -Wextra -Werror"
 status=0
 LC_ALL=de_DE.UTF-8 timeout 20 "$host" "$plugin" --once >"$folder/commands.txt" 2>"$folder/warnings.txt" || status=$?
-diff -u "$sources/tests/data/minimal-host.txt" "$folder/commands.txt" >&2 || fail "other commands; status $status"
+# From the command that fails on. Without an int or a raw command before it, the dialog would not come so far.
+sed -n '/ failed$/,$p' "$folder/commands.txt" | diff -u "$sources/tests/data/minimal-host.txt" - >&2 || fail "other commands; status $status"
 [ "$status" = 0 ] || fail "expected status 0, found $status"
 ! grep -v 'propagateSizeHints' "$folder/warnings.txt" >&2 || fail "unexpected warnings"
 

@@ -4,11 +4,11 @@
 #include "Faults.h"
 #include "Files.h"
 #include "NamedController.h"
-#include "Recording.h"
+#include "Recorder.h"
+#include "Replay.h"
 #include "SimulatedController.h"
-#include "WireText.h"
 
-#include <QElapsedTimer>
+#include <QMap>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -16,9 +16,11 @@
 #include <cerrno>
 #include <clocale>
 #include <csignal>
+#include <functional>
 #include <sys/resource.h>
+#include <utility>
 
-/** The simulated controller and its files, the command channel, the faults below it, recordings, and versions. */
+/** The simulated controller and its files, and what lies between it and a module: channel, faults, recordings. */
 class TestController : public QObject
 {
     Q_OBJECT
@@ -26,17 +28,163 @@ class TestController : public QObject
 private slots:
     void initTestCase();
     void comparesVersions();
-    void answers_data() { addRows("controller-answers.txt"); }
-    void answers();
-    void refusesControllerFiles_data() { addTexts("controller-files.txt"); }
-    void refusesControllerFiles();
+    void carriesOut_data() { addRows("commands.txt"); }
+    void carriesOut();
+    void refusesFiles_data() { addTexts("controller-files.txt"); }
+    void refusesFiles();
     void savesControllers();
-    void answersAsRecorded();
-    void refusesAnswers();
-    void breaksCommands();
-    void readsRecordings_data() { addTexts("recordings.txt"); }
-    void readsRecordings();
 };
+
+namespace {
+
+ControllerTable tableOf(const QString& name)
+{
+    ControllerTable table;
+    const QString problem = readTable(name, {}, &table);
+    if (!problem.isEmpty())
+        qFatal("%s", qPrintable(problem));
+    return table;
+}
+
+/** A command channel with all layers below it, as in the host, and what is heard of them. */
+class Layers : public QObject
+{
+public:
+    /** Replays the recording in \a file. Without a file it answers as the controller "full". */
+    explicit Layers(const QString& file);
+
+    /** Takes a step of data/commands.txt. */
+    void take(const QString& step);
+
+    QStringList heard;
+
+private:
+    void hear(const QString& text);
+    void change(const QString& line);
+    void readLines(const QString& file);
+    void carryOut(const QString& operation, const QByteArray& command);
+
+    QTemporaryDir folder;
+    SimulatedController controller{tableOf("full")};
+    Replay replay;
+    Faults faults;
+    Recorder recorder{&faults};
+    ControllerChannel channel{&recorder};
+    QString logged;  // the last command
+    int changes = 0; // of the controller's table
+};
+
+Layers::Layers(const QString& file)
+    : replay(file), faults(file.isEmpty() ? static_cast<ControllerLink*>(&controller) : &replay)
+{
+    hear(file.isEmpty() ? QString() : replay.open());
+    connect(&channel, &ControllerChannel::executed, this, [this](const CommandRecord& record) {
+        const qint64 milliseconds = record.microseconds / 1000;
+        const bool isTimed = milliseconds >= faults.latency() - 1 && milliseconds < 10000;
+        logged = QString("%1, %2, %3%4%5")
+                     .arg(record.text(), QByteArray::number(record.result), record.answer,
+                          isTimed ? "" : ", wrong time", channel.isBusy() ? ", busy" : "");
+    });
+    connect(&channel, &ControllerChannel::reported, this,
+            [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
+                hear(QString("%1, %2, %3, %4").arg(category, systemTag, QString::number(flag), message));
+            });
+    connect(&controller, &SimulatedController::changed, this, [this] { ++changes; });
+    connect(&recorder, &Recorder::started, this, [this] { hear("started"); });
+    connect(&recorder, &Recorder::ended, this, [this](const QString& problem) { hear("ended" + problem); });
+    connect(&replay, &Replay::differed, this, [this](const QString& problem) { hear(problem); });
+}
+
+/** Keeps a text that is not empty, without the directories of files. */
+void Layers::hear(const QString& text)
+{
+    if (!text.isEmpty())
+        heard.append(QString(text).remove(DATA_DIR "/").remove(folder.path() + '/'));
+}
+
+void Layers::take(const QString& step)
+{
+    const QString file = folder.filePath("a");
+    const QString word = step.section(' ', 0, 0);
+    const QString rest = step.section(' ', 1);
+    ControllerIdentity identity;
+    const QMap<QString, std::function<void()>> deeds = {
+        {"use", [&] { controller.setTable(tableOf(DATA_DIR "/" + rest)); }},
+        {"describe", [&] { hear(QString(controller.table().description).remove(QRegularExpression("\\d+ more "))); }},
+        {"fill", [&] { change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x')); }},
+        {"changes", [&] { hear(QString::number(std::exchange(changes, 0))); }},
+        {"nth", [&] { faults.failNth(rest.toInt()); }},
+        {"matching", [&] { faults.failMatching(QRegularExpression(rest)); }},
+        {"latency", [&] { faults.setLatency(rest.toInt()); }},
+        {"tell", [&] { hear(QString::number(faults.latency())); }},
+        {"loop", [&] { faults.waitInEventLoop(true); }},
+        {"connect", [&] { readConnection(step.toLatin1(), &identity) ? recorder.connected(identity) : hear("no"); }},
+        {"record", [&] { hear(recorder.start(file)); }},
+        {"stop", [&] { recorder.stop(); }},
+        {"lines", [&] { readLines(file); }},
+        {"controller", [&] { hear(connectionText(replay.recordedController())); }},
+        {"rewind", [&] { replay.rewind(); }},
+        {"end", [&] { hear(replay.isAtEnd() ? "at the end" : "before the end"); }},
+        {"report", [&] { channel.reportError("a", "b", 2, rest.toLatin1()); }}};
+    if (step.contains(" ="))
+        change(step);
+    else if (deeds.contains(word))
+        deeds.value(word)();
+    else
+        carryOut(word, rest.toLatin1());
+}
+
+/** Changes the controller by a line of a controller file. */
+void Layers::change(const QString& line)
+{
+    ControllerTable table = controller.table();
+    hear(changeTable(&table, line));
+    controller.setTable(table);
+}
+
+/** Hears the lines of a recording, without the times. When commands are delayed, a time of zero stays. */
+void Layers::readLines(const QString& file)
+{
+    const QString time = faults.latency() > 0 ? R"(0\.(?!000)\d{3})" : R"(\d\.\d{3})";
+    const QRegularExpression times("\n([0-9.]+ (?=connect)|" + time + " )");
+    hear(QString(readFile(file)).trimmed().replace(times, " | "));
+}
+
+/** Hears the answer of a command, and what is wrong with its log or with the value that a failure leaves. */
+void Layers::carryOut(const QString& operation, const QByteArray& command)
+{
+    char text[300] = {};
+    int number = 0;
+    double real = 0;
+    bool flag = false;
+    const char* const name = command.constData();
+    const QMap<QString, std::function<int()>> calls = {
+        {"send", [&] { return channel.sendCommand(text, "%s", name); }},
+        {"get", [&] { return channel.getParameter(text, "%s", name); }},
+        {"int", [&] { return channel.getParameterInt(&number, "%s", name); }},
+        {"double", [&] { return channel.getParameterDouble(&real, "%s", name); }},
+        {"bool", [&] { return channel.getParameterBool(&flag, "%s", name); }},
+        {"set", [&] { return channel.setParameter("%s", name); }}};
+    QTimer::singleShot(0, this, [this] { hear(channel.isBusy() ? "events" : ""); });
+    const int result = calls.value(operation)();
+    const QMap<QString, QByteArray> values = {{"int", QByteArray::number(number)},
+                                              {"double", QByteArray::number(real)},
+                                              {"bool", flag ? "yes" : "no"},
+                                              {"set", ""}};
+    const QByteArray value = values.value(operation, text);
+    const QByteArray plausible = operation == "set" ? "" : number == 1 || real == 1 ? "1" : "yes";
+    const QString expected =
+        QString("%1 %2, %3, %4").arg(operation, command, QByteArray::number(result), result == 0 ? value : "");
+    hear(logged == expected ? QString() : "logged " + logged);
+    if (result != 0)
+        hear(result == -1 && value == plausible ? "failed" : QString("failed, %1, %2").arg(result).arg(QString(value)));
+    else if (value.size() > 99)
+        hear(QString("%1 characters").arg(value.size()));
+    else
+        hear(operation == "set" ? "ok" : written(value));
+}
+
+} // namespace
 
 /** The second run of each program must really have a decimal comma. */
 void TestController::initTestCase()
@@ -54,50 +202,26 @@ void TestController::comparesVersions()
     }
 }
 
-static ControllerTable full()
-{
-    ControllerTable table;
-    const QString problem = readTable("full", {}, &table);
-    return problem.isEmpty() ? table : ControllerTable();
-}
-
-/** Carries out \a command, such as "get synccard available". Returns "ok", "failed", or the value of a read. */
-static QByteArray outcome(SimulatedController* controller, const QByteArray& command)
-{
-    const QMap<QByteArray, Operation> operations = {
-        {"raw", Operation::Send}, {"get", Operation::Get}, {"bool", Operation::Bool}, {"set", Operation::Set}};
-    const int blank = command.indexOf(' ');
-    QByteArray answer;
-    if (!controller->execute(operations.value(command.left(blank)), command.mid(blank + 1), &answer))
-        return "failed";
-    return command.startsWith("set") ? "ok" : answer;
-}
-
-void TestController::answers()
+void TestController::carriesOut()
 {
     QFETCH(QByteArray, left);
     QFETCH(QByteArray, right);
-    SimulatedController controller(full());
-    QByteArray found;
     const QStringList steps = QString(left).split("; ");
-    for (const QString& step : steps) {
-        ControllerTable table = controller.table();
-        if (step.contains(" ="))
-            QCOMPARE(changeTable(&table, step), QString());
-        controller.setTable(table);
-        if (!step.contains(" ="))
-            found = outcome(&controller, step.toLatin1());
-    }
-    QCOMPARE(found, unescaped(right));
+    const bool isReplay = steps.first().startsWith("replay ");
+    Layers layers(isReplay ? DATA_DIR "/" + steps.first().section(' ', 1) : QString());
+    for (const QString& step : steps.mid(isReplay ? 1 : 0))
+        layers.take(step);
+    QCOMPARE(layers.heard.join("; "), QString(right));
 }
 
-void TestController::refusesControllerFiles()
+void TestController::refusesFiles()
 {
     QFETCH(QByteArray, left);
     QFETCH(QByteArray, right);
     const QTemporaryDir folder;
     const QString file = folder.filePath("a.txt");
-    writeFile(file, left.replace("\\e", "\xE4"));
+    left.replace("\\e", "\xE4").replace("\\0", QByteArray(1, '\0')).replace('\n', "\r\n");
+    writeFile(file, left.contains("\\c") ? left.left(left.indexOf("\\c")) : left);
     writeFile(folder.filePath("b.txt"), "x\n");
     NamedController controller{"before", {}};
     const QByteArray expected = right.replace("DIRECTORY", folder.path().toLatin1());
@@ -112,144 +236,23 @@ void TestController::savesControllers()
     const QString file = folder.filePath("a.txt");
     QVector<NamedController> controllers;
     QCOMPARE(readNamedControllers(&controllers), QString());
-    ControllerTable odd;
-    odd.description = " a\\b\x09";
-    odd.identity.model = "\xE4 ";
-    odd.insert({"synccard mode t01", "!"});
-    odd.insert({"synccard mode_desc a=[1-2] ", " \n"});
-    odd.insert({"set synccard source d01", "", true});
-    odd.insert({"set synccard source d02", ""});
-    controllers.append({"odd", odd});
+    controllers.append({"odd", tableOf(DATA_DIR "/odd-controller.txt")});
     for (const NamedController& saved : qAsConst(controllers)) {
-        NamedController read;
         QCOMPARE(saveTable(file, saved.table), QString());
-        QCOMPARE(readController(file, &read), QString());
-        QCOMPARE(written(read.table), written(saved.table));
-        QCOMPARE(read.table.rows().size(), saved.table.rows().size());
-        for (const AnswerRow& row : saved.table.rows()) {
-            QVERIFY(read.table.find(row.command));
-            QCOMPARE(read.table.find(row.command)->answer, row.answer);
-            QCOMPARE(read.table.find(row.command)->isFailure, row.isFailure);
-        }
+        QCOMPARE(written(tableOf(file)), written(saved.table));
     }
     const QByteArray before = readFile(file);
+    QCOMPARE(before, readFile(DATA_DIR "/odd-controller.txt"));
     rlimit limit = {};
     getrlimit(RLIMIT_FSIZE, &limit);
     const rlimit small = {100, limit.rlim_max};
     auto* const previous = std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &small);
-    const QString problem = saveTable(file, full());
+    const QString problem = saveTable(file, controllers.first().table);
     setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, previous);
+    static_cast<void>(std::signal(SIGXFSZ, previous));
     QCOMPARE(problem, file + ": " + qt_error_string(EFBIG));
     QCOMPARE(readFile(file), before);
-}
-
-/** The first connection of a recording is a controller: what it was first asked, and for the rest "full". */
-void TestController::answersAsRecorded()
-{
-    const QString file = DATA_DIR "/recorded-controller.txt";
-    NamedController recorded;
-    QCOMPARE(readController(file, &recorded), QString());
-    QCOMPARE(connectionText(recorded.table.identity), QByteArray("connect 1.10.0 FERNBANK 2"));
-    QVERIFY2(recorded.table.description.startsWith("Recording recorded-controller.txt: 8 answers, ")
-                 && recorded.table.description.endsWith(" more as in full, 1 unknown commands left out"),
-             qPrintable(recorded.table.description));
-    SimulatedController controller(recorded.table);
-    const QByteArrayList expected = {
-        "get synccard available: yes",
-        "bool synccard has_input_frequency: failed", // one operation failed, another did not
-        "get synccard has_input_frequency: yes",
-        "raw zorvan2 get synccard active_mode: zorvan2 get synccard active_mode cam100",
-        "raw zorvan2 get synccard mode_desc cam100: no echo",
-        "get synccard internal_frequency d01: 75",
-        "get synccard source d01: internal",
-        "get synccard synccard d01: 0x0402 10427",
-        "set synccard source d01 ttl: failed",
-        "set synccard source d01 video: ok",
-        "get synccard source d01: video",
-        "set synccard active_mode none: ok",
-        "raw zorvan2 get synccard active_mode: zorvan2 get synccard active_mode none",
-    };
-    for (const QByteArray& line : expected) {
-        const QByteArray command = line.left(line.indexOf(':'));
-        QCOMPARE(command + ": " + outcome(&controller, command), line);
-    }
-    const QTemporaryDir folder;
-    const QString other = folder.filePath("b.txt");
-    writeFile(other, "from = " + file.toUtf8() + "\nsynccard internal_frequency d01 = 80\n");
-    QCOMPARE(readController(other, &recorded), QString());
-    QCOMPARE(recorded.table.find("synccard internal_frequency d01")->answer, QByteArray("80"));
-    QCOMPARE(recorded.table.description, QString());
-    writeFile(other, readFile(file).chopped(1));
-    QCOMPARE(readController(other, &recorded), other + ":15: cut off: the last line has no line end");
-}
-
-/** A text that just fits is taken whole, one character more fails. So does a text in place of a number or flag. */
-void TestController::refusesAnswers()
-{
-    ControllerTable table = full();
-    SimulatedController controller(table);
-    ControllerChannel channel(&controller);
-    char answer[200];
-    for (const bool fits : {true, false}) {
-        const QByteArray input(fits ? 199 : 200, 'x');
-        const QByteArray output(fits ? 99 : 100, 'y');
-        table.insert({"synccard input_frequency", input});
-        table.insert({"synccard output d01", output});
-        controller.setTable(table);
-        QCOMPARE(channel.getParameter(answer, "synccard input_frequency") == 0, fits);
-        QVERIFY(!fits || answer == input);
-        QCOMPARE(channel.getParameter(answer, "synccard output d01") == 0, fits);
-        QVERIFY(!fits || answer == output);
-    }
-    int number = 0;
-    bool flag = false;
-    QVERIFY(channel.getParameterInt(&number, "synccard source d01") != 0);
-    QVERIFY(channel.getParameterBool(&flag, "synccard source d01") != 0);
-}
-
-void TestController::breaksCommands()
-{
-    SimulatedController controller(full());
-    Faults faults(&controller);
-    const auto outcomes = [&] {
-        QByteArray text;
-        QByteArray answer;
-        for (const char* command : {"synccard available", "synccard source d01", "synccard output d01"})
-            text += faults.execute(Operation::Get, command, &answer) ? 'y' : 'n';
-        return text;
-    };
-    QCOMPARE(outcomes(), QByteArray("yyy"));
-    faults.failNth(2);
-    QCOMPARE(outcomes(), QByteArray("yny"));
-    QCOMPARE(outcomes(), QByteArray("yyy"));
-    faults.failMatching(QRegularExpression("d0[12]$"));
-    faults.setLatency(20);
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(outcomes(), QByteArray("ynn"));
-    QVERIFY(timer.elapsed() >= 60);
-    bool hasTimedOut = false;
-    QTimer::singleShot(0, this, [&] { hasTimedOut = true; });
-    faults.waitInEventLoop(true);
-    QCOMPARE(outcomes(), QByteArray("ynn"));
-    QVERIFY(hasTimedOut);
-}
-
-/** A whole recording and damaged ones, with the line ends of another system; what is whole is written as it was read.
- */
-void TestController::readsRecordings()
-{
-    QFETCH(QByteArray, left);
-    QFETCH(QByteArray, right);
-    const QTemporaryDir folder;
-    const QString file = folder.filePath("a");
-    left.replace("\\e", "\xE4").replace("\\0", QByteArray(1, '\0')).replace('\n', "\r\n");
-    writeFile(file, left.contains("\\c") ? left.left(left.indexOf("\\c")) : left);
-    QVector<RecordedLine> lines;
-    QCOMPARE(readRecording(file, &lines), right == "whole" ? QString() : file + ':' + right);
-    QVERIFY(right != "whole" || left.contains(lines.last().toLine(1234).trimmed() + "\r\n"));
 }
 
 QTEST_MAIN(TestController)

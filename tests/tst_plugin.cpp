@@ -29,8 +29,8 @@ namespace {
 /** Every text that a user meets who raises the frequency, in vain, and opens the dialog again without a card. */
 QStringList textsOfSession()
 {
-    LoadedModule module("1.23", "synccard has_source d01 ttlinv=yes;synccard has_output d01 internal ttlinv=yes;"
-                                "set synccard internal_frequency d01 121.000000=!");
+    LoadedModule module({"synccard has_source d01 ttlinv=yes", "synccard has_output d01 internal ttlinv=yes",
+                         "set synccard internal_frequency d01 121.000000=!"});
     const QAction* entry = module.element->menu_entry;
     QStringList texts = {module.element->menu_name,    entry->text(),
                          entry->statusTip(),           entry->whatsThis(),
@@ -127,7 +127,7 @@ void TestPlugin::leavesNothing()
         QTableWidget other(1, 1);
         other.setItem(0, 0, new QTableWidgetItem("x"));
         {
-            LoadedModule module("1.23", "synccard number_of_synccards=1;synccard synccard d01=0x0402 0");
+            LoadedModule module({"synccard number_of_synccards=1", "synccard synccard d01=0x0402 0"});
             module.look();
             // The style keeps the text of the cell it painted last, and reads it again when it paints the next one.
             module.find<QTableWidget>("tableWidget_synccards")->grab();

@@ -5,6 +5,12 @@
 #include <QHash>
 #include <QVector>
 
+/** Returns the newest protocol. A controller speaks it by default, and so do the tests. */
+inline VersionInfo newestProtocol()
+{
+    return {1, 23, 0};
+}
+
 /** What a controller answers to one command. */
 struct AnswerRow
 {
@@ -20,7 +26,7 @@ class ControllerTable
 {
 public:
     QString description; // One line for the list of controllers. The controller itself never sends it.
-    ControllerIdentity identity = {VersionInfo(1, 23, 0), {}};
+    ControllerIdentity identity = {newestProtocol(), {}};
 
     const QVector<AnswerRow>& rows() const { return list; }
     /** Returns the row of \a command, or null. The next change makes the pointer invalid. */

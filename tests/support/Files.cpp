@@ -7,11 +7,11 @@ void addRows(const char* name)
 {
     QTest::addColumn<QByteArray>("left");
     QTest::addColumn<QByteArray>("right");
-    const QByteArrayList lines = readFile(QString(DATA_DIR "/") + name).split('\n');
+    const QByteArrayList lines = readFile(QString(DATA_DIR "/") + name).replace("\n  ", " ").split('\n');
     for (const QByteArray& line : lines) {
         const int arrow = line.indexOf(" ->");
         if (!line.startsWith('#') && arrow > 0)
-            QTest::newRow(line.left(arrow)) << line.left(arrow).replace("\\n", "\n") << line.mid(arrow + 4);
+            QTest::newRow(line.left(arrow)) << line.left(arrow).replace("\\n", "\n") << line.mid(arrow + 4).trimmed();
     }
 }
 

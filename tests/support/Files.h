@@ -2,7 +2,10 @@
 
 #include <QString>
 
-/** Rows of two texts for a test with the parameters "left" and "right", from a file of tests/data: "left -> right". */
+/**
+ * Adds a row for each "left -> right" in a file of tests/data, for a test with the parameters "left" and "right". A row
+ * goes on in lines that begin with two blanks.
+ */
 void addRows(const char* name);
 
 /** The same from a file of small texts, each behind its message: "= right", and below it the lines of "left". */

@@ -16,8 +16,8 @@
 class LoadedModule
 {
 public:
-    /** \a versionsText is protocol and model, \a script changes the standard answers. */
-    explicit LoadedModule(const QString& versionsText = "1.23 FERNBANK", const QByteArray& script = QByteArray());
+    /** Connects to the standard controller, changed by \a script, lines of a controller file. */
+    explicit LoadedModule(const QByteArrayList& script = {});
     ~LoadedModule();
 
     /** Connects to a controller with the protocol and model in \a versionsText. */
@@ -61,7 +61,7 @@ private:
     QTimer boxPoller;
 };
 
-/** The versions of a controller from a protocol and its model, "1.10 QUILLSTONE 3". */
+/** The versions of a controller from a protocol and its model, "1.10 QUILLSTONE 3" or "newest". */
 BackendVersions backend(const QString& text);
 
 /** Fails the running test at any Qt warning but the offscreen platform's own. */

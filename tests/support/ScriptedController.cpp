@@ -5,6 +5,10 @@
 #include "ControllerText.h"
 #include "ControllerVocabulary.h"
 
+#include <QTest>
+
+#include <utility>
+
 static ControllerTable standardTable()
 {
     ControllerTable read;
@@ -35,7 +39,7 @@ void ScriptedController::restart(const ControllerTable& table, int first, int en
     setTable(table);
     firstFailing = first;
     endOfFailing = end;
-    commands.clear();
+    takeCommands();
     failed.clear();
     reports.clear();
 }
@@ -44,8 +48,8 @@ void ScriptedController::listen(const ControllerChannel& channel)
 {
     QObject::connect(&channel, &ControllerChannel::executed, &channel, [this](const CommandRecord& record) {
         if (record.result != 0)
-            failed.append(commands.size());
-        commands.append(record.text());
+            failed.append(commands.size() - 1);
+        logged.append(record.text());
     });
     QObject::connect(&channel, &ControllerChannel::reported, &channel,
                      [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
@@ -55,11 +59,20 @@ void ScriptedController::listen(const ControllerChannel& channel)
                      });
 }
 
+QByteArrayList ScriptedController::takeCommands()
+{
+    if (std::exchange(logged, {}) != commands)
+        QTest::qFail("the channel's log differs from the executed commands", __FILE__, __LINE__);
+    return std::exchange(commands, {});
+}
+
 bool ScriptedController::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
     const QByteArray text = textOf(operation, command);
     during(text);
-    if (commands.size() >= firstFailing && commands.size() < endOfFailing)
+    const int number = commands.size();
+    commands.append(text);
+    if (number >= firstFailing && number < endOfFailing)
         return false;
     const Request request(operation, command);
     const QByteArray ofParameter = request.isSet ? "set " + request.name : request.name;

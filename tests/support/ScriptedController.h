@@ -1,12 +1,10 @@
 #pragma once
 
-#include "SessionFile.h"
 #include "SimulatedController.h"
 
 #include <QSet>
 
 #include <functional>
-#include <utility>
 
 class ControllerChannel;
 
@@ -29,23 +27,24 @@ public:
     /** Forgets what was asked and reported. Fails the commands from \a first to the one before \a end, from 0. */
     void restart(const ControllerTable& table, int first = 0, int end = 0);
 
-    /** Keeps what \a channel carries and what is reported to it. */
+    /** Keeps what \a channel logs and what is reported to it. */
     void listen(const ControllerChannel& channel);
 
-    QByteArrayList takeCommands() { return std::exchange(commands, {}); }
-    QByteArrayList takeReports() { return std::exchange(reports, {}); }
+    /** Returns the commands since the last call. Fails the test if the channel logged others. */
+    QByteArrayList takeCommands();
 
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
     /** Called in each command, report and message box with its text, as what runs an event loop would. */
     std::function<void(const QByteArray& text)> during = [](const QByteArray&) {};
 
-    QByteArrayList commands;
-    QVector<int> failed;  // positions in commands
-    QSet<int> askedLines; // lines whose answers were asked for
+    QByteArrayList commands; // in the order in which they were executed
+    QVector<int> failed;     // positions in commands
+    QSet<int> askedLines;    // lines whose answers were asked for
     QByteArrayList reports;
 
 private:
+    QByteArrayList logged;
     int firstFailing = 0;
     int endOfFailing = 0;
 };

@@ -3,6 +3,7 @@
 #include <QByteArrayList>
 #include <QMap>
 #include <QMetaType>
+#include <QSet>
 #include <QStringList>
 #include <QVector>
 
@@ -38,10 +39,12 @@ public:
 
     QVector<Session> sessions;
     QMap<QByteArray, QByteArrayList> lists;
-    QStringList mistakes; // "FILE:LINE: what is wrong"
+    QSet<QByteArray> called; // names of the lists that cases and other lists stand for
+    QStringList mistakes;    // "FILE:LINE: what is wrong"
 
 private:
     void readLine(const QByteArray& key, const QByteArray& value, const QByteArrayList& keys);
+    void readLineOfCase(const QByteArray& key, const QByteArray& value);
     QByteArrayList expanded(const QByteArray& text);
     QByteArrayList listed(const QByteArray& call);
     void demand(bool condition, const QString& otherwise);

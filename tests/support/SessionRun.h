@@ -6,6 +6,12 @@
 /** Does what the words of \a line say, by keys and mouse where a user has them. Returns why it cannot, or nothing. */
 QString act(LoadedModule& module, const SessionLine& line);
 
+/**
+ * Returns the first line that differs, with its neighbours, or an empty string: "-" is what was expected, "+" what came
+ * in its place. Its position, from 0, goes into \a position.
+ */
+QString difference(const QByteArrayList& found, const QByteArrayList& expected, int* position = nullptr);
+
 /** Runs one case of a session file, leaving the dialog in one way: "OK", "Cancel", "Escape" or "close". */
 class SessionRun
 {
