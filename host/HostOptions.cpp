@@ -4,6 +4,7 @@
 #include "ControllerText.h"
 #include "Faults.h"
 #include "ModuleLoader.h"
+#include "WireText.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -88,7 +89,7 @@ bool HostOptions::listControllers()
     const QString problem = readNamedControllers(&controllers);
     QStringList lines;
     for (const NamedController& listed : qAsConst(controllers))
-        lines.append(listed.name.leftJustified(nameWidth) + listed.table.description);
+        lines.append(listed.name.leftJustified(nameWidth) + escaped(listed.table.description.toLatin1()));
     return problem.isEmpty() ? printed(lines.join('\n')) : refuse(problem);
 }
 

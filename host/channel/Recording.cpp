@@ -52,7 +52,7 @@ bool readConnection(const QByteArray& text, ControllerIdentity* controller)
     const QString words = QString::fromLatin1(text);
     controller->protocol.fromString(words.section(' ', 1, 1));
     controller->model = words.section(' ', 2);
-    return connectionText(*controller) == text.trimmed();
+    return connectionText(*controller) == text.trimmed() && !words.section(' ', 1, 1).contains('-');
 }
 
 QString readRecording(const QString& file, QVector<RecordedLine>* lines)

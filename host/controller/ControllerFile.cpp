@@ -24,7 +24,8 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
     if (!files.isEmpty())
         name = QFileInfo(files.first()).dir().filePath(name);
     if (isName && !QFileInfo::exists(name))
-        return wanted + ": not the name of a controller; --list shows the names";
+        return QString("%1: not the name of a controller; --list shows the names, and a file needs a path such as ./%1")
+            .arg(wanted);
     const QString path = QFileInfo(name).canonicalFilePath();
     if (files.contains(path))
         return name + ": leads back to itself";
@@ -33,7 +34,7 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
         return name + ": " + file.errorString();
     const QStringList lines = linesOf(file.readAll());
     if (lines.first() + '\n' == recordingHeader)
-        return readRecordedTable(name, table);
+        return readRecordedTable(QStringList(name) + files, table);
     ControllerText text(table, QStringList(path) + files);
     for (int i = 0; i < lines.size(); ++i) {
         const QString fault = text.read(lines.at(i), i + 1);
@@ -45,6 +46,8 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
 
 QString saveTable(const QString& file, const ControllerTable& table)
 {
+    if (QFileInfo::exists(file) && !QFileInfo(file).isFile())
+        return file + ": not a file"; // The writer would replace a device.
     QSaveFile output(file);
     // Without a buffer: commit() was seen to succeed with an empty file when the disk was full.
     const QByteArray text = written(table);

@@ -1,5 +1,7 @@
 #include "ControllerTable.h"
 
+#include <utility>
+
 const AnswerRow* ControllerTable::find(const QByteArray& command) const
 {
     const auto position = positions.constFind(command);
@@ -17,12 +19,12 @@ void ControllerTable::insert(const AnswerRow& row)
     list.append(row);
 }
 
-void ControllerTable::remove(const QByteArray& command)
+void ControllerTable::remove(const QSet<QByteArray>& commands)
 {
-    const AnswerRow* row = find(command);
-    if (!row)
-        return;
-    list.removeAt(positions.take(command));
-    for (int i = 0; i < list.size(); ++i)
-        positions[list.at(i).command] = i;
+    const QVector<AnswerRow> all = std::exchange(list, {});
+    positions.clear();
+    for (const AnswerRow& row : all) {
+        if (!commands.contains(row.command))
+            insert(row);
+    }
 }

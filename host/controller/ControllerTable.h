@@ -3,6 +3,7 @@
 #include "ControllerLink.h"
 
 #include <QHash>
+#include <QSet>
 #include <QVector>
 
 /** Returns the newest protocol. A controller speaks it by default, and so do the tests. */
@@ -14,11 +15,11 @@ inline VersionInfo newestProtocol()
 /** What a controller answers to one command. */
 struct AnswerRow
 {
-    /** "synccard source d01"; with an operation in front, "set synccard source d01", the row is for that one only. */
+    /** Such as "synccard source d01". A row for one operation only has it in front: "set synccard source d01". */
     QByteArray command;
     QByteArray answer;
     bool isFailure = false; // The command fails.
-    int line = 0;           // in the file that gave the row, from 1
+    int line = 0;           // in the file that gave the row, from 1; 0 if no file did
 };
 
 /** A simulated controller: its identity, and its answers in a fixed order, one row per command. A plain value. */
@@ -33,8 +34,8 @@ public:
     const AnswerRow* find(const QByteArray& command) const;
     /** Replaces the row with the same command, or appends \a row. */
     void insert(const AnswerRow& row);
-    /** Removes the row of \a command, if there is one. */
-    void remove(const QByteArray& command);
+    /** Removes the rows of \a commands. */
+    void remove(const QSet<QByteArray>& commands);
 
 private:
     QVector<AnswerRow> list;

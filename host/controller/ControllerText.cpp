@@ -7,16 +7,25 @@
 #include <QRegularExpression>
 
 static constexpr int maximumRows = 20000;
+static constexpr char tooManyRows[] = "more than 20000 rows";
 static constexpr char failure[] = "!";
+
+/** NUL bytes included. */
+static QString textOf(const QByteArray& latin1)
+{
+    return QString::fromLatin1(latin1.constData(), latin1.size());
+}
 
 QString ControllerText::read(const QString& line, int number)
 {
-    fault = characterFault(line);
     const QString text = line.trimmed();
-    if (!fault.isEmpty() || text.isEmpty() || text.startsWith('#'))
+    fault.clear();
+    if (text.isEmpty() || text.startsWith('#'))
         return fault;
     const int separator = text.indexOf('=');
-    fault = textFault(text);
+    fault = characterFault(text);
+    if (fault.isEmpty())
+        fault = textFault(text);
     demand(separator >= 0, "\"COMMAND = ANSWER\" is expected");
     const QString left = text.left(separator).trimmed();
     const QString right = text.mid(separator + 1).trimmed();
@@ -37,7 +46,7 @@ void ControllerText::readHeader(const QString& key, const QString& value)
     else if (key == "from")
         readBase(value);
     else
-        (key == "model" ? table->identity.model : table->description) = QString::fromLatin1(unescaped(value));
+        (key == "model" ? table->identity.model : table->description) = textOf(unescaped(value));
 }
 
 /** Begins with another table. The header lines before stay. */
@@ -58,15 +67,16 @@ void ControllerText::readBase(const QString& name)
 /** Reads a line, or one line for each number of a range. A range in the answer counts along with the command's. */
 void ControllerText::expand(const QString& command, const QString& answer, int number)
 {
-    static const QRegularExpression range(R"(\[(\d{1,9})-(\d{1,9})\])");
+    static const QRegularExpression range(R"(\[(\d+)-(\d+)\])");
     const QRegularExpressionMatch match = range.match(command);
     if (!match.hasMatch())
         return readAnswer(command, answer, number);
-    const int last = match.captured(2).toInt();
-    int entry = match.captured(1).toInt();
-    demand(entry <= last, "the range " + match.captured() + " runs backward");
-    for (; entry <= last && fault.isEmpty(); ++entry) {
-        const QString digits = QString("%1").arg(entry, match.capturedLength(1), 10, QChar('0'));
+    const double first = match.captured(1).toDouble();
+    const double last = match.captured(2).toDouble();
+    demand(first <= last, "the range " + match.captured() + " runs backward");
+    demand(last - first < maximumRows, tooManyRows);
+    for (double entry = first; entry <= last && fault.isEmpty(); ++entry) {
+        const QString digits = QString::number(entry, 'f', 0).rightJustified(match.capturedLength(1), '0');
         QString next = command;
         next.replace(match.capturedStart(), match.capturedLength(), digits);
         expand(next, QString(answer).replace(match.captured(), digits), number);
@@ -85,7 +95,7 @@ void ControllerText::readAnswer(const QString& command, const QString& answer, i
     demandFirst(row.command);
     table->insert(row);
     hasAnswers = true;
-    demand(table->rows().size() <= maximumRows, QString("more than %1 rows").arg(maximumRows));
+    demand(table->rows().size() <= maximumRows, tooManyRows);
 }
 
 /** Keeps the first fault in a line. */
@@ -97,7 +107,7 @@ void ControllerText::demand(bool condition, const QString& otherwise)
 
 void ControllerText::demandFirst(const QByteArray& left)
 {
-    demand(!seen.contains(left), '"' + QString::fromLatin1(left) + "\" stands here twice");
+    demand(!seen.contains(left), '"' + escaped(left) + "\" stands here twice");
     seen.insert(left);
 }
 

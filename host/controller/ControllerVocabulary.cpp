@@ -1,5 +1,7 @@
 #include "ControllerVocabulary.h"
 
+#include "WireText.h"
+
 #include <QVector>
 
 #include <algorithm>
@@ -81,7 +83,7 @@ QString unknown(const QByteArray& name, const QByteArrayList& known)
     };
     const auto isLess = [&](const QByteArray& a, const QByteArray& b) { return alike(a) < alike(b); };
     const QByteArray nearest = *std::max_element(known.begin(), known.end(), isLess);
-    return QString(R"("%1" is unknown; the nearest is "%2")").arg(QString::fromLatin1(name), QString(nearest));
+    return QString(R"("%1" is unknown; the nearest is "%2")").arg(escaped(name), QString(nearest));
 }
 
 QString commandFault(const QByteArray& command)
@@ -92,8 +94,9 @@ QString commandFault(const QByteArray& command)
     const Operation operation = isRaw ? Operation::Send : word == "set" ? Operation::Set : Operation::Get;
     if (Request(operation, bare).parameter)
         return {};
-    QByteArrayList forms;
+    const QByteArray verb = isRaw ? bare.left(static_cast<int>(qstrlen("zorvan2 get "))) : "";
+    QByteArrayList forms = {"description", "from", "protocol", "model"};
     for (const Parameter& parameter : parameters)
-        forms.append((isRaw ? "zorvan2 get " : "") + QByteArray(parameter.form));
+        forms.append(verb + parameter.form);
     return "parameter " + unknown(bare, forms);
 }

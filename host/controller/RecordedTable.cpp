@@ -21,18 +21,18 @@ static void add(const RecordedLine& line, ControllerTable* table)
         row = {command.mid(static_cast<int>(qstrlen(rawRead))), line.answer.mid(command.size() + 1)};
     const AnswerRow* const earlier = table->find(row.command);
     if (earlier && (earlier->answer != row.answer || earlier->isFailure != row.isFailure))
-        row.command = line.text; // Another operation was answered otherwise.
+        row = {line.text, line.answer, !line.isAnswered}; // Another operation has given another answer.
     if (!table->find(row.command))
         table->insert(row);
 }
 
-QString readRecordedTable(const QString& file, ControllerTable* table)
+QString readRecordedTable(const QStringList& files, ControllerTable* table)
 {
     QVector<RecordedLine> lines;
-    QString problem = readRecording(file, &lines);
+    QString problem = readRecording(files.first(), &lines);
     ControllerTable full;
     if (problem.isEmpty())
-        problem = readTable("full", {}, &full);
+        problem = readTable("full", files, &full);
     if (!problem.isEmpty())
         return problem;
     readConnection(lines.takeFirst().text, &table->identity);
@@ -55,7 +55,7 @@ QString readRecordedTable(const QString& file, ControllerTable* table)
             table->insert({row.command, row.answer, row.isFailure});
     }
     table->description = QString("Recording %1: %2 answers, %3 more as in full")
-                             .arg(QFileInfo(file).fileName())
+                             .arg(QFileInfo(files.first()).fileName())
                              .arg(recorded)
                              .arg(table->rows().size() - recorded);
     if (unknownCommands > 0)

@@ -43,12 +43,14 @@ bool SimulatedController::write(const Request& request)
     const QByteArray set = textOf(Operation::Set, request.name);
     const AnswerRow* const ofValue = current.find(set + ' ' + request.value);
     const AnswerRow* const decisive = ofValue ? ofValue : current.find(set);
-    if (decisive ? decisive->isFailure : !accepts(request))
-        return false;
     const Rule rule = request.parameter->rule;
     bool isNumber = false;
     const double number = request.value.toDouble(&isNumber);
     isNumber = isNumber && (rule == Rule::Frequency || rule == Rule::Delay || rule == Rule::Divisor);
+    if (isNumber && !qIsFinite(number))
+        return false;
+    if (decisive ? decisive->isFailure : !accepts(request))
+        return false;
     store(request.name, isNumber ? QByteArray::number(number, 'g', shownDigits) : request.value);
     if (rule == Rule::Source)
         followSource(request.name.mid(request.name.lastIndexOf(' ') + 1), request.value);
@@ -59,7 +61,8 @@ bool SimulatedController::write(const Request& request)
 /** Returns true if the rule of the parameter accepts the value. */
 bool SimulatedController::accepts(const Request& request) const
 {
-    if (answerTo("config is_changeable") == "no" || !current.find(request.name))
+    const AnswerRow* const present = current.find(request.name);
+    if (answerTo("config is_changeable") == "no" || !present || present->isFailure)
         return false;
     const QByteArray card = request.name.split(' ').value(2);
     const QByteArray& value = request.value;
@@ -97,7 +100,7 @@ bool SimulatedController::isBetween(const QByteArray& value, double minimum, con
     bool isLimit = false;
     const double number = value.toDouble(&isNumber);
     const double maximum = answerTo(maximumCommand).toDouble(&isLimit);
-    return isNumber && qIsFinite(number) && number >= minimum && (!isLimit || !(number > maximum));
+    return isNumber && number >= minimum && (!isLimit || !(number > maximum));
 }
 
 /** A new source lowers the divisor to its maximum. An output that the source does not offer becomes "none". */
@@ -106,7 +109,8 @@ void SimulatedController::followSource(const QByteArray& card, const QByteArray&
     const QByteArray divisor = "synccard external_divisor " + card;
     const QByteArray maximum = answerTo("synccard max_external_divisor " + card + ' ' + source);
     bool isLimit = false;
-    if (answerTo(divisor).toInt() > maximum.toInt(&isLimit) && isLimit)
+    bool isNumber = false;
+    if (answerTo(divisor).toDouble(&isNumber) > maximum.toDouble(&isLimit) && isNumber && isLimit)
         store(divisor, maximum);
     const QByteArray name = "synccard output " + card;
     const QByteArray output = answerTo(name);

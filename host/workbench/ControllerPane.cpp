@@ -78,9 +78,11 @@ void ControllerPane::change(const QString& text)
 void ControllerPane::removeRows()
 {
     ControllerTable changed = host->controller().table();
+    QSet<QByteArray> commands;
     const QModelIndexList selected = table->selectionModel()->selectedRows();
     for (const QModelIndex& row : selected)
-        changed.remove(unescaped(cellOf(row.data(FilteredTable::lineRole).toString(), CommandColumn)));
+        commands.insert(unescaped(cellOf(row.data(FilteredTable::lineRole).toString(), CommandColumn)));
+    changed.remove(commands);
     problem->setText(host->changeController(changed));
 }
 
