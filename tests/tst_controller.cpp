@@ -112,10 +112,16 @@ void Layers::take(const QString& step)
     const QString word = step.section(' ', 0, 0);
     const QString rest = step.section(' ', 1);
     ControllerIdentity identity;
+    ControllerTable table = controller.table();
     const QMap<QString, std::function<void()>> deeds = {
         {"use", [&] { controller.setTable(tableOf(DATA_DIR "/" + rest)); }},
         {"describe", [&] { hear(QString(controller.table().description).remove(QRegularExpression("\\d+ more "))); }},
         {"fill", [&] { change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x')); }},
+        {"remove",
+         [&] {
+             table.remove(rest.toLatin1());
+             controller.setTable(table);
+         }},
         {"changes", [&] { hear(QString::number(std::exchange(changes, 0))); }},
         {"nth", [&] { faults.failNth(rest.toInt()); }},
         {"matching", [&] { faults.failMatching(QRegularExpression(rest)); }},
