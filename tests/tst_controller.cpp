@@ -115,7 +115,8 @@ void Layers::take(const QString& step)
     ControllerTable table = controller.table();
     const QMap<QString, std::function<void()>> deeds = {
         {"use", [&] { controller.setTable(tableOf(DATA_DIR "/" + rest)); }},
-        {"describe", [&] { hear(QString(controller.table().description).remove(QRegularExpression("\\d+ more "))); }},
+        {"describe", [&] { hear(QString(table.description).remove(QRegularExpression("\\d+ more "))); }},
+        {"identity", [&] { hear(connectionText(table.identity)); }},
         {"fill", [&] { change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x')); }},
         {"remove",
          [&] {
