@@ -108,10 +108,17 @@ void Layers::take(const QString& step)
     const QString word = step.section(' ', 0, 0);
     const QString rest = step.section(' ', 1);
     ControllerIdentity identity;
+    ControllerTable table = controller.table();
     const QMap<QString, std::function<void()>> deeds = {
         {"use", [&] { controller.setTable(tableOf(DATA_DIR "/" + rest)); }},
-        {"describe", [&] { hear(QString(controller.table().description).remove(QRegularExpression("\\d+ more "))); }},
+        {"describe", [&] { hear(QString(table.description).remove(QRegularExpression("\\d+ more "))); }},
+        {"identity", [&] { hear(connectionText(table.identity)); }},
         {"fill", [&] { change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x')); }},
+        {"remove",
+         [&] {
+             table.remove({rest.toLatin1()});
+             controller.setTable(table);
+         }},
         {"changes", [&] { hear(QString::number(std::exchange(changes, 0))); }},
         {"nth", [&] { faults.failNth(rest.toInt()); }},
         {"matching", [&] { faults.failMatching(QRegularExpression(rest)); }},
