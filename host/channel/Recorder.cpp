@@ -48,7 +48,7 @@ void Recorder::connected(const ControllerIdentity& controller)
 bool Recorder::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
     const bool isAnswered = below->execute(operation, command, answer);
-    if (isConnectionDue)
+    if (isConnectionDue && !connection.isEmpty())
         write({connection, true, {}});
     isConnectionDue = false;
     write({textOf(operation, command), isAnswered, isAnswered ? *answer : QByteArray()});
