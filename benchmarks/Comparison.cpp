@@ -1,5 +1,6 @@
 #include "Comparison.h"
 
+#include "ControllerTable.h"
 #include "DialogText.h"
 
 #include <QImage>
@@ -27,7 +28,7 @@ static QString firstDifference(const QString& module, const QString& bare)
 }
 
 Comparison::Comparison(const Workload& workload)
-    : channel(workload), versions({1, 0, 0}, {1, 23, 0}, {1, 0, 0}, "QUILLSTONE"), bare(&parent, workload),
+    : channel(workload), versions({1, 0, 0}, newestProtocol(), {1, 0, 0}, "QUILLSTONE"), bare(&parent, workload),
       loader(ModuleLoader::defaultFile())
 {
     if (!loader.load())
