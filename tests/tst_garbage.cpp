@@ -111,9 +111,9 @@ void actAtRandom(LoadedModule& module, GarbageLink* garbage)
                                        "poll"};
     const QVector<QByteArray> seldom = {"leave OK", "leave OK", "leave OK", "leave Cancel", "hide", "done 0"};
     for (int i = 0; i < 4 && (module.dialog()->isVisible() || garbage->isAsked); ++i)
-        act(module, {garbage->anyOf(often), 0});
+        act(module, garbage->anyOf(often));
     if (module.dialog()->isVisible() && garbage->random.bounded(4) == 0)
-        act(module, {garbage->anyOf(seldom), 0});
+        act(module, garbage->anyOf(seldom));
 }
 
 void openAtRandom(LoadedModule& module, GarbageLink* garbage, QMap<int, int>* results)
