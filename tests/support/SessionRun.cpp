@@ -44,6 +44,12 @@ void turnWheel(QWidget* widget)
     sendBySystem(child ? child : widget, &event);
 }
 
+void minimize(QWidget* window)
+{
+    QHideEvent event;
+    sendBySystem(window, &event);
+}
+
 } // namespace
 
 QString act(LoadedModule& module, const QByteArray& line)
@@ -77,11 +83,7 @@ QString act(LoadedModule& module, const QByteArray& line)
         {"answer", [&] { problem = module.link.script(line.mid(action.size() + 1)); }},
         {"leave", [&] { dialog->isVisible() ? user.leave(words.value(1)) : leaveHidden(); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
-        {"minimize",
-         [&] {
-             QHideEvent event;
-             sendBySystem(dialog, &event);
-         }},
+        {"minimize", [&] { minimize(dialog); }},
         {"hide", [&] { dialog->hide(); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
         {"delete-parent", [&] { delete module.parent; }},
