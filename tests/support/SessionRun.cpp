@@ -55,7 +55,6 @@ void minimize(QWidget* window)
 QString act(LoadedModule& module, const QByteArray& line)
 {
     static const QByteArrayList onWidgets = {"key", "choose", "deselect", "wheel", "press"};
-    static const QByteArrayList onCells = {"click", "delay", "text", "take"};
     const QByteArrayList words = line.split(' ');
     const QByteArray& action = words.first();
     const int row = words.value(1).toInt();
@@ -65,7 +64,6 @@ QString act(LoadedModule& module, const QByteArray& line)
     auto* widget = module.find<QWidget>(words.value(1));
     auto* table = module.find<QTableWidget>("tableWidget_channels");
     const auto run = [&](const char* slot) { QMetaObject::invokeMethod(dialog, slot); };
-    const auto leaveHidden = [&] { run(words.value(1) == "OK" ? "accept" : "reject"); };
     bool isDone = true;
     QString problem;
     const QMap<QByteArray, std::function<void()>> actions = {
@@ -81,16 +79,15 @@ QString act(LoadedModule& module, const QByteArray& line)
         {"walk", [&] { problem = walk(dialog, words.mid(1)); }},
         {"poll", [&] { run("poll_input_frequency"); }},
         {"answer", [&] { problem = module.link.script(line.mid(action.size() + 1)); }},
-        {"leave", [&] { dialog->isVisible() ? user.leave(words.value(1)) : leaveHidden(); }},
+        {"leave", [&] { user.leave(words.value(1)); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
         {"minimize", [&] { minimize(dialog); }},
         {"hide", [&] { dialog->hide(); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
         {"delete-parent", [&] { delete module.parent; }},
         {"exit-module", [&] { module.loader.module()->exit_module(); }}};
-    const bool isPossible = onWidgets.contains(action) ? widget && widget->isVisible() && widget->isEnabled()
-                            : onCells.contains(action) ? table->item(row, column) != nullptr
-                                                       : actions.contains(action);
+    const bool isUsable = !onWidgets.contains(action) || (widget && widget->isVisible() && widget->isEnabled());
+    const bool isPossible = isUsable && actions.contains(action);
     const QWidget* focus = action == "press" ? widget : dialog->focusWidget();
     if (isPossible)
         actions.value(action)();
@@ -134,7 +131,9 @@ void SessionRun::open()
 {
     isOk = false;
     module.connectTo(session.text(prefix + "protocol", session.text("protocol")));
-    answer("answer");
+    const QByteArrayList changes = lines("answer");
+    for (const QByteArray& line : changes)
+        keep(module.link.script(line));
     interruptions = lines("during");
     module.link.during = [this](const QByteArray& text) { interrupt(text); };
     QObject::connect(module.dialog(), &QDialog::finished, &module.channel, [this] { interrupt("finished"); });
@@ -158,7 +157,6 @@ void SessionRun::open()
 void SessionRun::useAndLeave()
 {
     compareOpening();
-    answer("later");
     const QByteArrayList actions = lines("user");
     for (const QByteArray& line : actions)
         keep(act(module, line));
@@ -216,14 +214,6 @@ void SessionRun::interrupt(const QByteArray& text)
     interruptions.erase(line);
     keep(act(module, action));
     QCoreApplication::processEvents();
-}
-
-/** Gives the controller the answers in the lines with \a key. */
-void SessionRun::answer(const QByteArray& key)
-{
-    const QByteArrayList changes = lines(key);
-    for (const QByteArray& line : changes)
-        keep(module.link.script(line));
 }
 
 void SessionRun::keep(const QString& found)

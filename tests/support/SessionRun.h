@@ -21,7 +21,6 @@ private:
     SessionRun(const Session& session, const QByteArray& way) : session(session), way(way) {}
     void open();
     void useAndLeave();
-    void answer(const QByteArray& key);
     void compareOpening();
     void compareWidgets(const QByteArray& key);
     void compare(const QString& what, const QByteArrayList& found, const QByteArrayList& expected);
