@@ -29,10 +29,8 @@ int seed = 0; // of the opening that runs
 void printSeed()
 {
     const int before = seed % openingsOfADialog;
-    static_cast<void>(fprintf(
-        stderr,
-        "to run this opening alone: ./dev fuzz 1 %d; with those before it in the same dialog: ./dev fuzz %d %d\n", seed,
-        before + 1, seed - before));
+    static_cast<void>(
+        fprintf(stderr, "to run this opening and those before it: ./dev fuzz %d %d\n", before + 1, seed - before));
 }
 
 /** Answers with whatever fits the module's buffers. */
