@@ -29,10 +29,8 @@ int seed = 0; // of the opening that runs
 void printSeed()
 {
     const int before = seed % openingsOfADialog;
-    static_cast<void>(fprintf(
-        stderr,
-        "to run this opening alone: ./dev fuzz 1 %d; with those before it in the same dialog: ./dev fuzz %d %d\n", seed,
-        before + 1, seed - before));
+    static_cast<void>(
+        fprintf(stderr, "to run this opening and those before it: ./dev fuzz %d %d\n", before + 1, seed - before));
 }
 
 /** Answers with whatever fits the module's buffers. */
@@ -111,9 +109,9 @@ void actAtRandom(LoadedModule& module, GarbageLink* garbage)
                                        "poll"};
     const QVector<QByteArray> seldom = {"leave OK", "leave OK", "leave OK", "leave Cancel", "hide", "done 0"};
     for (int i = 0; i < 4 && (module.dialog()->isVisible() || garbage->isAsked); ++i)
-        act(module, {garbage->anyOf(often), 0});
+        act(module, garbage->anyOf(often));
     if (module.dialog()->isVisible() && garbage->random.bounded(4) == 0)
-        act(module, {garbage->anyOf(seldom), 0});
+        act(module, garbage->anyOf(seldom));
 }
 
 void openAtRandom(LoadedModule& module, GarbageLink* garbage, QMap<int, int>* results)

@@ -5,32 +5,23 @@
 #include "ControllerText.h"
 #include "ControllerVocabulary.h"
 
-#include <QTest>
-
-#include <utility>
-
 static ControllerTable standardTable()
 {
-    ControllerTable read;
-    const QString problem = readTable(DATA_DIR "/standard-controller.txt", {}, &read);
+    ControllerTable standard;
+    const QString problem = readTable(DATA_DIR "/standard-controller.txt", {}, &standard);
     if (!problem.isEmpty())
         qFatal("%s", qPrintable(problem));
-    ControllerTable standard; // Lines are those of cases.
-    for (const AnswerRow& row : read.rows())
-        standard.insert({row.command, row.answer, row.isFailure});
     return standard;
 }
 
 ScriptedController::ScriptedController() : SimulatedController(standardTable())
 {}
 
-QString ScriptedController::script(const QByteArray& line, int number)
+QString ScriptedController::script(const QByteArray& line)
 {
     ControllerTable changed = table();
-    const QString change = QString::fromLatin1(line.startsWith("maybe ") ? line.mid(6) : line);
-    QString fault = ControllerText(&changed).read(change, number);
-    if (fault.isEmpty())
-        setTable(changed);
+    QString fault = changeTable(&changed, QString::fromLatin1(line));
+    setTable(changed);
     return fault;
 }
 
@@ -49,7 +40,6 @@ void ScriptedController::listen(const ControllerChannel& channel)
     QObject::connect(&channel, &ControllerChannel::executed, &channel, [this](const CommandRecord& record) {
         if (record.result != 0)
             failed.append(commands.size() - 1);
-        logged.append(record.text());
     });
     QObject::connect(&channel, &ControllerChannel::reported, &channel,
                      [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
@@ -57,13 +47,6 @@ void ScriptedController::listen(const ControllerChannel& channel)
                          reports.append((isConvention ? "" : "wrong convention: ") + message.toLatin1());
                          during(message.toLatin1());
                      });
-}
-
-QByteArrayList ScriptedController::takeCommands()
-{
-    if (std::exchange(logged, {}) != commands)
-        QTest::qFail("the channel's log differs from the executed commands", __FILE__, __LINE__);
-    return std::exchange(commands, {});
 }
 
 bool ScriptedController::execute(Operation operation, const QByteArray& command, QByteArray* answer)
@@ -74,11 +57,5 @@ bool ScriptedController::execute(Operation operation, const QByteArray& command,
     commands.append(text);
     if (number >= firstFailing && number < endOfFailing)
         return false;
-    const Request request(operation, command);
-    const QByteArray ofParameter = request.isSet ? "set " + request.name : request.name;
-    for (const QByteArray& row : {text, command, ofParameter}) {
-        if (table().find(row))
-            askedLines.insert(table().find(row)->line);
-    }
     return SimulatedController::execute(operation, command, answer);
 }

@@ -1,111 +1,64 @@
 #include "SessionFile.h"
 
-#include "ControllerVocabulary.h"
 #include "Files.h"
 
-#include <QFileInfo>
-#include <QRegularExpression>
 #include <QTest>
 
-QByteArray Session::text(const QByteArray& key, const QByteArray& otherwise) const
+SessionFile::SessionFile(const QString& name)
 {
-    return lines.value(key, {{otherwise, 0}}).first().text;
-}
-
-QString Session::problem(const QString& what, int line) const
-{
-    return QString("%1:%2: %3: %4").arg(QString(file)).arg(line > 0 ? line : number).arg(QString(name), what);
-}
-
-SessionFile::SessionFile(const QString& path, const QByteArrayList& keys) : file(QFileInfo(path).fileName().toUtf8())
-{
-    const QByteArrayList lines = readFile(path).split('\n');
+    const QByteArrayList lines = readFile(QString(DATA_DIR "/") + name).split('\n');
     for (const QByteArray& line : lines) {
-        ++number;
         const int blank = (line + ' ').indexOf(' ');
         if (!line.isEmpty() && !line.startsWith('#'))
-            readLine(line.left(blank), line.mid(blank + 1), keys);
+            readLine(line.left(blank), line.mid(blank + 1));
     }
 }
 
-void SessionFile::readLine(const QByteArray& key, const QByteArray& value, const QByteArrayList& keys)
+void SessionFile::readLine(const QByteArray& key, const QByteArray& value)
 {
+    static const QByteArrayList keys = {"protocol",     "answer",    "asks",          "unasked", "shows",  "report",
+                                        "stops",        "user",      "after",         "sends",   "ok",     "cancel",
+                                        "sends-report", "ok-report", "cancel-report", "ok-box",  "during", "leaves"};
     if (key == "list")
         list = value;
     else if (key == "+")
         lists[list].append(value);
     else if (key == "case")
-        sessions.append({file, value, number, {}});
-    else if (!keys.contains(key))
-        demand(false, "key " + unknown(key, keys + QByteArrayList{"case", "list"}));
-    else if (sessions.isEmpty())
-        demand(false, "no case has begun");
+        sessions.append(Session{value, {}});
+    else if (!sessions.isEmpty() && keys.contains(key.startsWith("again-") ? key.mid(6) : key))
+        sessions.last().lines[key] += expanded(value);
     else
-        readLineOfCase(key, value);
+        qFatal("unknown key: %s %s", key.constData(), value.constData());
 }
 
-void SessionFile::readLineOfCase(const QByteArray& key, const QByteArray& value)
+/** The line itself, or the lines of the list that it names, "@NAME: A|B", with its parameters filled in. */
+QByteArrayList SessionFile::expanded(const QByteArray& line) const
 {
-    const QByteArrayList texts = expanded(value);
-    for (const QByteArray& text : texts) {
-        // An answer is a line of a controller file, which has escapes of its own.
-        const bool isAnswer = key.endsWith("answer") || key.endsWith("later") || text.startsWith("answer ");
-        sessions.last().lines[key].append({isAnswer ? text : QByteArray(text).replace("\\x20", " "), number});
+    if (!line.startsWith('@'))
+        return {line};
+    const int colon = line.indexOf(": ");
+    const QByteArray name = line.mid(1, colon - 1);
+    const QByteArrayList arguments = colon < 0 ? QByteArrayList() : line.mid(colon + 2).split('|');
+    if (!lists.contains(name))
+        qFatal("unknown list: %s", line.constData());
+    QByteArrayList found;
+    for (QByteArray text : lists.value(name)) {
+        for (int i = 0; i < arguments.size(); ++i)
+            text.replace('%' + QByteArray::number(i + 1), arguments.at(i));
+        found += expanded(text);
     }
+    return found;
 }
 
-/** The line itself, or the lines that it stands for: a range of numbers, or a list. */
-QByteArrayList SessionFile::expanded(const QByteArray& text)
-{
-    static const QRegularExpression range(R"(\[(\d\d)-(\d\d)\])");
-    const QRegularExpressionMatch match = range.match(text);
-    if (!match.hasMatch() && !text.startsWith('@'))
-        return {text};
-    QByteArrayList found = match.hasMatch() ? QByteArrayList() : listed(text.mid(1));
-    for (int i = match.captured(1).toInt(); match.hasMatch() && i <= match.captured(2).toInt(); ++i)
-        found += QByteArray(text).replace(match.captured().toUtf8(), QByteArray::number(100 + i).mid(1));
-    QByteArrayList lines;
-    for (const QByteArray& line : qAsConst(found))
-        lines += expanded(line);
-    return lines;
-}
-
-/** The lines of the list that \a call names, "NAME: A|B", with its parameters filled in. */
-QByteArrayList SessionFile::listed(const QByteArray& call)
-{
-    const QByteArray name = call.mid(0, call.indexOf(": "));
-    const QByteArrayList arguments = call == name ? QByteArrayList() : call.mid(name.size() + 2).split('|');
-    demand(lists.contains(name), "list " + unknown(name, lists.keys()));
-    called.insert(name);
-    QByteArray all = lists.value(name).join('\n');
-    static const QRegularExpression parameters("%\\d");
-    bool isFilled = true;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QByteArray parameter = '%' + QByteArray::number(i + 1);
-        isFilled = isFilled && all.contains(parameter);
-        all.replace(parameter, arguments.at(i));
-    }
-    demand(isFilled && !QString(all).contains(parameters), "list \"" + name + "\" has other parameters");
-    return all.split('\n');
-}
-
-void SessionFile::demand(bool condition, const QString& otherwise)
-{
-    if (!condition)
-        mistakes.append(QString("%1:%2: %3").arg(QString(file)).arg(number).arg(otherwise));
-}
-
-void addSessions(const char* name, const QByteArrayList& keys)
+void addSessions(const char* name)
 {
     QTest::addColumn<Session>("session");
-    const SessionFile file(QString(DATA_DIR "/") + name, keys);
-    QVERIFY2(file.mistakes.isEmpty(), qPrintable(file.mistakes.join('\n')));
-    for (const Session& all : file.sessions) {
-        Session session = all;
-        const SessionLines protocols = session.lines.value("protocol", {{"newest", 0}});
-        for (const SessionLine& protocol : protocols) {
+    const QVector<Session> sessions = SessionFile(name).sessions;
+    for (Session session : sessions) {
+        const QByteArrayList protocols = session.lines.value("protocol", {"newest"});
+        for (const QByteArray& protocol : protocols) {
             session.lines["protocol"] = {protocol};
-            QTest::newRow(session.name + ", " + protocol.text) << session;
+            QTest::newRow(session.name + ", " + protocol) << session;
         }
     }
 }
