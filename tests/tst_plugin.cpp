@@ -131,30 +131,28 @@ void TestPlugin::takesParameters()
     QCOMPARE(module.link.commands, {});
 }
 
-/** Unloading takes away every widget and resource; the plug-in can be loaded again. */
+/** Unloading takes away every widget and resource. */
 void TestPlugin::leavesNothing()
 {
     QString file;
-    for (int round = 0; round < 2; ++round) {
-        QTableWidget other(1, 1);
-        other.setItem(0, 0, new QTableWidgetItem("x"));
-        {
-            LoadedModule module({"synccard number_of_synccards=1", "synccard synccard d01=0x0402 0"});
-            module.look();
-            // The style keeps the text of the cell it painted last, and reads it again when it paints the next one.
-            module.find<QTableWidget>("tableWidget_synccards")->grab();
-            file = module.loader.fileName();
-        }
-        other.grab();
-        QPluginLoader forgetful(file);
-        forgetful.setLoadHints({});
-        auto* interface = qobject_cast<ModuleInterface*>(forgetful.instance());
-        QVERIFY(!interface->get_gui_elements().isEmpty());
-        delete interface; // without exit_module()
-        QVERIFY(forgetful.unload());
-        QVERIFY(QApplication::topLevelWidgets() == QWidgetList{&other});
-        QVERIFY(!QFile::exists(":/images/lock.png"));
+    QTableWidget other(1, 1);
+    other.setItem(0, 0, new QTableWidgetItem("x"));
+    {
+        LoadedModule module({"synccard number_of_synccards=1", "synccard synccard d01=0x0402 0"});
+        module.look();
+        // The style keeps the text of the cell it painted last, and reads it again when it paints the next one.
+        module.find<QTableWidget>("tableWidget_synccards")->grab();
+        file = module.loader.fileName();
     }
+    other.grab();
+    QPluginLoader forgetful(file);
+    forgetful.setLoadHints({});
+    auto* interface = qobject_cast<ModuleInterface*>(forgetful.instance());
+    QVERIFY(!interface->get_gui_elements().isEmpty());
+    delete interface; // without exit_module()
+    QVERIFY(forgetful.unload());
+    QVERIFY(QApplication::topLevelWidgets() == QWidgetList{&other});
+    QVERIFY(!QFile::exists(":/images/lock.png"));
 }
 
 /** In German every text is another one, except those that are listed here. */

@@ -28,26 +28,15 @@ QString walk(const QDialog* dialog, const QByteArrayList& controls)
     return difference(reached, controls + controls.mid(0, 1));
 }
 
-/** Sends \a event as the window system does. */
-void sendBySystem(QWidget* widget, QEvent* event)
-{
-    QSpontaneKeyEvent::setSpontaneous(event);
-    QApplication::instance()->notify(widget, event);
-}
-
+/** Turns the wheel as the window system does. */
 void turnWheel(QWidget* widget)
 {
     const QPoint center = widget->rect().center();
     QWidget* child = widget->childAt(center);
     QWheelEvent event(center, widget->mapToGlobal(center), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
-    sendBySystem(child ? child : widget, &event);
-}
-
-void minimize(QWidget* window)
-{
-    QHideEvent event;
-    sendBySystem(window, &event);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QApplication::instance()->notify(child ? child : widget, &event);
 }
 
 } // namespace
@@ -81,7 +70,6 @@ QString act(LoadedModule& module, const QByteArray& line)
         {"answer", [&] { problem = module.link.script(line.mid(action.size() + 1)); }},
         {"leave", [&] { user.leave(words.value(1)); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
-        {"minimize", [&] { minimize(dialog); }},
         {"hide", [&] { dialog->hide(); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
         {"delete-parent", [&] { delete module.parent; }},
