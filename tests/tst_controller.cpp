@@ -27,7 +27,6 @@ class TestController : public QObject
 
 private slots:
     void initTestCase();
-    void comparesVersions();
     void carriesOut_data() { addRows("commands.txt"); }
     void carriesOut();
     void refusesFiles_data() { addTexts("controller-files.txt"); }
@@ -197,16 +196,6 @@ void Layers::carryOut(const QString& operation, const QByteArray& command)
 void TestController::initTestCase()
 {
     QCOMPARE(*localeconv()->decimal_point, qEnvironmentVariableIsSet("LOCPATH") ? ',' : '.');
-}
-
-void TestController::comparesVersions()
-{
-    const QVector<VersionInfo> ascending = {{-1, 5, 5}, {0, 8, -2}, {0, 8, -1}, {0, 8, 0}, {0, 13, -1}, {1, 0, 0}};
-    for (const VersionInfo& a : ascending) {
-        for (const VersionInfo& b : ascending)
-            QCOMPARE((QList<bool>{a == b, a != b, a > b, a >= b, a < b, a <= b}),
-                     (QList<bool>{&a == &b, &a != &b, &a > &b, &a >= &b, &a < &b, &a <= &b}));
-    }
 }
 
 void TestController::carriesOut()

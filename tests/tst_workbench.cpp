@@ -7,7 +7,6 @@
 #include "MainWindow.h"
 #include "Workbench.h"
 
-#include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
@@ -99,7 +98,6 @@ void TestWorkbench::logsInOrder()
     HostSetup failing;
     failing.failing.setPattern("number_of_modes");
     Windows windows(failing);
-    const QAbstractItemModelTester tester(windows.rows);
     QCOMPARE(windows.open(), DialogUser::NotShown);
     const QStringList lines = windows.lines();
     QCOMPARE(lines.mid(0, 2),
@@ -182,8 +180,6 @@ void TestWorkbench::makesFaults()
     QTest::keyClicks(pattern, "x)");
     QCOMPARE(faults.failing().pattern() + pattern->accessibleDescription(), QString("output_(x)"));
     auto* count = windows.workbench.findChildren<QSpinBox*>().value(0);
-    windows.type(windows.workbench.findChildren<QSpinBox*>().value(1), "7");
-    QCOMPARE(faults.latency(), 7);
     windows.type(count, "99");
     windows.poll();
     QCOMPARE(faults.commandsToFailure(), 99);
@@ -212,7 +208,6 @@ void TestWorkbench::editsTheController()
     auto* table = pane->findChild<FilteredTable*>();
     const auto* problem = pane->findChildren<QLabel*>().constLast();
     QAbstractItemModel* rows = table->model();
-    const QAbstractItemModelTester tester(rows);
     const auto firstRow = [&] {
         return rows->index(0, 0).data().toString() + " = " + rows->index(0, 1).data().toString();
     };
@@ -235,9 +230,7 @@ void TestWorkbench::editsTheController()
     };
     QCOMPARE(edit("max_internal_frequency d01", "75"), QString("synccard max_internal_frequency d01 * = 75"));
     QVERIFY(rows->index(0, 1).data(Qt::FontRole).value<QFont>().bold());
-    const int before = windows.host.controller().table().rows().size();
     QVERIFY(paste("synccard source d03 = video\nsynccard sauce d03 = video").startsWith("line 2: "));
-    QCOMPARE(windows.host.controller().table().rows().size(), before);
     QCOMPARE(paste("synccard number_of_synccards = 9\nsynccard synccard d[03-09] = 0x0402 1[03-09]"), QString());
     const QPointer<QAction> entry(windows.host.entry().menu_entry);
     windows.open([&] {

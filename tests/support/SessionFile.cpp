@@ -54,7 +54,8 @@ void addSessions(const char* name)
 {
     QTest::addColumn<Session>("session");
     const QVector<Session> sessions = SessionFile(name).sessions;
-    for (Session session : sessions) {
+    for (const Session& all : sessions) {
+        Session session = all;
         const QByteArrayList protocols = session.lines.value("protocol", {"newest"});
         for (const QByteArray& protocol : protocols) {
             session.lines["protocol"] = {protocol};
