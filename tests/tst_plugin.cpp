@@ -103,7 +103,6 @@ void TestPlugin::offersOneEntry()
     const QPointer<QAction> action(module.element->menu_entry);
     QCOMPARE(action->text() + action->statusTip() + action->whatsThis() + action->shortcut().toString(),
              "&SynccardChange Synccard settingsChange Synccard settingsShift+F7");
-    QVERIFY(action->icon().isNull());
     module.loader.module()->exit_module();
     QCOMPARE(module.element->menu_entry, action.data());
     QVERIFY(module.loader.module()->get_gui_elements().constFirst()->menu_entry != action);
@@ -225,7 +224,6 @@ void TestPlugin::hasForm()
     LoadedModule module;
     auto* channels = module.find<QTableWidget>("tableWidget_channels");
     const auto* cards = module.find<QTableWidget>("tableWidget_synccards");
-    QCOMPARE(module.dialog()->objectName(), "synccarddialog");
     for (const char* name : {"label_inputSource", "label_inputFrequency"})
         QCOMPARE(module.find<QLabel>(name)->textFormat(), Qt::PlainText);
     module.open([&] {
@@ -236,7 +234,6 @@ void TestPlugin::hasForm()
         QCOMPARE(channels->item(0, 0)->flags(), Qt::ItemIsEnabled);
         QCOMPARE(channels->item(0, 1)->textAlignment(), int(Qt::AlignRight | Qt::AlignVCenter));
         QCOMPARE(cards->item(0, 1)->textAlignment(), int(Qt::AlignCenter));
-        QCOMPARE(cards->editTriggers(), QTableWidget::NoEditTriggers);
         QCOMPARE(module.dialog()->minimumSize(), module.dialog()->maximumSize());
         QCOMPARE(channels->accessibleName() + ", " + cards->accessibleName(), "Synccard channels, Available synccards");
         const QDoubleSpinBox* editor = module.user().editDelay(0);

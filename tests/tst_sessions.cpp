@@ -80,7 +80,8 @@ QByteArrayList consequence(const QByteArrayList& list, const QString& command)
 {
     for (const QByteArray& line : list) {
         const QString row = line;
-        const QRegularExpression expression('^' + row.section(" -> ", 0, 0).section(' ', 1) + '$');
+        const QString pattern = row.section(" -> ", 0, 0).section(' ', 1);
+        const QRegularExpression expression('^' + pattern + '$');
         if (expression.match(command).hasMatch())
             return {row.section(' ', 0, 0).toUtf8(),
                     QString(command).replace(expression, row.section(" -> ", 1)).toUtf8()};

@@ -144,7 +144,6 @@ void TestWorkbench::followsTheEnd()
         windows.workbench.resize(size);
         windows.open();
         QTRY_VERIFY(isAtEnd());
-        QVERIFY(bar->maximum() > 0);
     }
     int value = bar->value();
     connect(&windows.host.channel(), &ControllerChannel::executed, this, [&](const CommandRecord& record) {
@@ -229,7 +228,6 @@ void TestWorkbench::editsTheController()
         return problem->text();
     };
     QCOMPARE(edit("max_internal_frequency d01", "75"), QString("synccard max_internal_frequency d01 * = 75"));
-    QVERIFY(rows->index(0, 1).data(Qt::FontRole).value<QFont>().bold());
     QVERIFY(paste("synccard source d03 = video\nsynccard sauce d03 = video").startsWith("line 2: "));
     QCOMPARE(paste("synccard number_of_synccards = 9\nsynccard synccard d[03-09] = 0x0402 1[03-09]"), QString());
     const QPointer<QAction> entry(windows.host.entry().menu_entry);
@@ -249,7 +247,6 @@ void TestWorkbench::editsTheController()
     table->selectAll();
     QTest::keyClick(table, Qt::Key_Delete);
     QTRY_COMPARE(rows->rowCount(), 0);
-    QVERIFY(entry);
     QCOMPARE(edit("protocol", "0.12.7"), QString("protocol * = 0.12.7"));
     QVERIFY(!entry);
     QCOMPARE(windows.open(), DialogUser::Closed);

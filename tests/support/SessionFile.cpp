@@ -7,7 +7,9 @@
 SessionFile::SessionFile(const QString& name)
 {
     const QByteArrayList lines = readFile(QString(DATA_DIR "/") + name).split('\n');
+    int number = 0;
     for (const QByteArray& line : lines) {
+        place = name.toUtf8() + ':' + QByteArray::number(++number);
         const int blank = (line + ' ').indexOf(' ');
         if (!line.isEmpty() && !line.startsWith('#'))
             readLine(line.left(blank), line.mid(blank + 1));
@@ -24,11 +26,11 @@ void SessionFile::readLine(const QByteArray& key, const QByteArray& value)
     else if (key == "+")
         lists[list].append(value);
     else if (key == "case")
-        sessions.append(Session{value, {}});
+        sessions.append(Session{value, place, {}});
     else if (!sessions.isEmpty() && keys.contains(key.startsWith("again-") ? key.mid(6) : key))
         sessions.last().lines[key] += expanded(value);
     else
-        qFatal("unknown key: %s %s", key.constData(), value.constData());
+        qFatal("%s: unknown key: %s", place.constData(), key.constData());
 }
 
 /** The line itself, or the lines of the list that it names, "@NAME: A|B", with its parameters filled in. */
@@ -40,7 +42,7 @@ QByteArrayList SessionFile::expanded(const QByteArray& line) const
     const QByteArray name = line.mid(1, colon - 1);
     const QByteArrayList arguments = colon < 0 ? QByteArrayList() : line.mid(colon + 2).split('|');
     if (!lists.contains(name))
-        qFatal("unknown list: %s", line.constData());
+        qFatal("%s: unknown list: %s", place.constData(), line.constData());
     QByteArrayList found;
     for (QByteArray text : lists.value(name)) {
         for (int i = 0; i < arguments.size(); ++i)

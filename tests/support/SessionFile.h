@@ -15,6 +15,7 @@ struct Session
     }
 
     QByteArray name;
+    QByteArray place; // "sessions.txt:12", where the case begins
     QMap<QByteArray, QByteArrayList> lines;
 };
 Q_DECLARE_METATYPE(Session)
@@ -36,7 +37,8 @@ private:
     void readLine(const QByteArray& key, const QByteArray& value);
     QByteArrayList expanded(const QByteArray& line) const;
 
-    QByteArray list; // the list that is being read
+    QByteArray list;  // the list that is being read
+    QByteArray place; // of the line that is being read
 };
 
 /** One row for each case and protocol of a file of tests/data, for a test with the parameter "session". */

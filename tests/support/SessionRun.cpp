@@ -97,6 +97,8 @@ QString difference(const QByteArrayList& found, const QByteArrayList& expected)
 
 QString SessionRun::problemOf(const Session& session)
 {
+    if (session.lines.size() == 1) // the protocol
+        return session.place + ": the case has no lines";
     const QByteArrayList ways = {"OK", "Cancel", "Escape", "close"};
     const auto again = session.lines.lowerBound("again-");
     const bool isTwice = again != session.lines.end() && again.key().startsWith("again-");
@@ -109,7 +111,7 @@ QString SessionRun::problemOf(const Session& session)
             run.open();
         }
         if (!run.problem.isEmpty())
-            return "leaving by " + way + ": " + run.problem;
+            return session.place + ": leaving by " + way + ": " + run.problem;
     }
     return {};
 }
