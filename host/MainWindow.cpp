@@ -5,9 +5,11 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStyle>
 
 static constexpr int columns = 60; // of text, in average characters
 static constexpr int margin = 12;  // pixels
@@ -15,6 +17,7 @@ static constexpr char fileFilter[] = "Text files (*.txt);;All files (*)";
 
 MainWindow::MainWindow(DevelopmentHost* host) : host(host)
 {
+    QApplication::setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon)); // of the workbench, too
     // A modal dialog blocks only windows of the same group: the workbench, which has no parent, stays usable.
     setAttribute(Qt::WA_GroupLeader);
     createDescription();
@@ -96,8 +99,13 @@ void MainWindow::createControllerMenu()
     });
     add(menu, "&Save as...", [this] {
         auto* dialog = new QFileDialog(this, "Save the controller", "controller.txt", fileFilter);
-        return askForFile(dialog, QFileDialog::AcceptSave,
-                          [this](const QString& file) { return saveTable(file, host->controller().table()); });
+        dialog->setDefaultSuffix("txt");
+        return askForFile(dialog, QFileDialog::AcceptSave, [this](const QString& file) {
+            const Recorder& recorder = host->recorder();
+            if (recorder.isRecording() && QFileInfo(file) == QFileInfo(recorder.fileName()))
+                return file + ": the running recording; stop it first, or name another file";
+            return saveTable(file, host->controller().table());
+        });
     });
     menu->addSeparator();
     menu->setToolTipsVisible(true);
@@ -116,8 +124,6 @@ QString MainWindow::askForFile(QFileDialog* dialog, QFileDialog::AcceptMode mode
 {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(mode);
-    if (mode == QFileDialog::AcceptSave)
-        dialog->setDefaultSuffix("txt");
     // Queued: a file dialog may still be open when it emits the signal.
     connect(
         dialog, &QFileDialog::fileSelected, this, [this, use](const QString& file) { refuse(use(file)); },

@@ -5,7 +5,6 @@
 #include "Workbench.h"
 
 #include <QApplication>
-#include <QStyle>
 
 int main(int argc, char* argv[])
 {
@@ -22,7 +21,6 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     if (!options.checkRest(argc, argv))
         return options.status();
-    QApplication::setWindowIcon(QApplication::style()->standardIcon(QStyle::SP_ComputerIcon));
     DevelopmentHost host(options.setup());
     MainWindow window(&host);
     Workbench workbench(&host);

@@ -106,11 +106,12 @@ void Layers::take(const QString& step)
     const QString file = folder.filePath("a");
     const QString word = step.section(' ', 0, 0);
     const QString rest = step.section(' ', 1);
+    static const QRegularExpression number("\\d+ more ");
     ControllerIdentity identity;
     ControllerTable table = controller.table();
     const QMap<QString, std::function<void()>> deeds = {
         {"use", [&] { controller.setTable(tableOf(DATA_DIR "/" + rest)); }},
-        {"describe", [&] { hear(QString(table.description).remove(QRegularExpression("\\d+ more "))); }},
+        {"describe", [&] { hear(QString(table.description).remove(number)); }},
         {"identity", [&] { hear(connectionText(table.identity)); }},
         {"fill", [&] { change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x')); }},
         {"remove",
@@ -202,10 +203,10 @@ void TestController::carriesOut()
 {
     QFETCH(QByteArray, left);
     QFETCH(QByteArray, right);
-    const QStringList steps = QString(left).split("; ");
+    QStringList steps = QString(left).split("; ");
     const bool isReplay = steps.first().startsWith("replay ");
-    Layers layers(isReplay ? DATA_DIR "/" + steps.first().section(' ', 1) : QString());
-    for (const QString& step : steps.mid(isReplay ? 1 : 0))
+    Layers layers(isReplay ? DATA_DIR "/" + steps.takeFirst().section(' ', 1) : QString());
+    for (const QString& step : qAsConst(steps))
         layers.take(step);
     QCOMPARE(layers.heard.join("; "), QString(right));
 }

@@ -32,6 +32,7 @@ QString Recorder::start(const QString& name)
 
 void Recorder::stop()
 {
+    recordConnection();
     if (!isRecording())
         return;
     file.reset();
@@ -48,11 +49,17 @@ void Recorder::connected(const ControllerIdentity& controller)
 bool Recorder::execute(Operation operation, const QByteArray& command, QByteArray* answer)
 {
     const bool isAnswered = below->execute(operation, command, answer);
+    recordConnection();
+    write({textOf(operation, command), isAnswered, isAnswered ? *answer : QByteArray()});
+    return isAnswered;
+}
+
+/** Writes the present connection unless it stands in the recording already. */
+void Recorder::recordConnection()
+{
     if (isConnectionDue && !connection.isEmpty())
         write({connection, true, {}});
     isConnectionDue = false;
-    write({textOf(operation, command), isAnswered, isAnswered ? *answer : QByteArray()});
-    return isAnswered;
 }
 
 /** Writes a whole line. If it cannot, it ends the recording and cuts it back to its last whole line, so that it

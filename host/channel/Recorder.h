@@ -26,7 +26,7 @@ public:
     /** Only while recording. */
     QString fileName() const { return file->fileName(); }
 
-    /** The connection is recorded with its first command, so that no connection without commands is. */
+    /** The connection is recorded with its first command, or at the end, so that no two follow each other. */
     void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
@@ -36,6 +36,7 @@ signals:
     void ended(const QString& problem);
 
 private:
+    void recordConnection();
     void write(const RecordedLine& line);
 
     ControllerLink* below;

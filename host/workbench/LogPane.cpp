@@ -54,7 +54,7 @@ LogPane::LogPane(DevelopmentHost* host)
     summing.setInterval(sumMilliseconds);
     connect(&summing, &QTimer::timeout, this, &LogPane::sumUp);
     const auto sumSoon = [this] { summing.start(); };
-    connect(table->model(), &QAbstractItemModel::rowsInserted, this, sumSoon);
+    connect(&log, &QAbstractItemModel::rowsInserted, this, sumSoon);
     connect(table->model(), &QAbstractItemModel::rowsRemoved, this, sumSoon);
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this, sumSoon);
 }
@@ -73,6 +73,8 @@ void LogPane::addCommand(const CommandRecord& record)
     if (followsEnd)
         table->scrollToBottom();
     table->viewport()->repaint();
+    sumUp();
+    sum->repaint();
 }
 
 /** Adds a row with the present time and \a texts. */
@@ -105,7 +107,7 @@ void LogPane::showPending()
 
 void LogPane::setColumnWidths()
 {
-    const int widest[] = {17, 12, 44, 10, 8, 13}; // in average characters
+    const int widest[] = {17, 12, 44, 10, 8, 16}; // in average characters
     for (int column = 0; column < log.columnCount(); ++column)
         table->setColumnWidth(column, widest[column] * table->fontMetrics().averageCharWidth());
     table->horizontalHeader()->setSectionResizeMode(answerColumn, QHeaderView::Stretch);
