@@ -75,8 +75,8 @@ void ControllerText::expand(const QString& command, const QString& answer, int n
     const double last = match.captured(2).toDouble();
     demand(first <= last, "the range " + match.captured() + " runs backward");
     demand(last - first < maximumRows, tooManyRows);
-    for (double entry = first; entry <= last && fault.isEmpty(); ++entry) {
-        const QString digits = QString::number(entry, 'f', 0).rightJustified(match.capturedLength(1), '0');
+    for (int i = 0; first + i <= last && fault.isEmpty(); ++i) {
+        const QString digits = QString::number(first + i, 'f', 0).rightJustified(match.capturedLength(1), '0');
         QString next = command;
         next.replace(match.capturedStart(), match.capturedLength(), digits);
         expand(next, QString(answer).replace(match.captured(), digits), number);
