@@ -37,7 +37,7 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
         return readRecordedTable(QStringList(name) + files, table);
     ControllerText text(table, QStringList(path) + files);
     for (int i = 0; i < lines.size(); ++i) {
-        const QString fault = text.read(lines.at(i), i + 1);
+        const QString fault = text.read(lines.at(i));
         if (!fault.isEmpty())
             return QString("%1:%2: %3").arg(name).arg(i + 1).arg(fault);
     }

@@ -19,7 +19,6 @@ struct AnswerRow
     QByteArray command;
     QByteArray answer;
     bool isFailure = false; // The command fails.
-    int line = 0;           // in the file that gave the row, from 1; 0 if no file did
 };
 
 /** A simulated controller: its identity, and its answers in a fixed order, one row per command. A plain value. */

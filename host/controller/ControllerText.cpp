@@ -16,7 +16,7 @@ static QString textOf(const QByteArray& latin1)
     return QString::fromLatin1(latin1.constData(), latin1.size());
 }
 
-QString ControllerText::read(const QString& line, int number)
+QString ControllerText::read(const QString& line)
 {
     const QString text = line.trimmed();
     fault.clear();
@@ -34,7 +34,7 @@ QString ControllerText::read(const QString& line, int number)
     if (QStringList{"description", "from", "protocol", "model"}.contains(left))
         readHeader(left, right);
     else
-        expand(left, right, number);
+        expand(left, right);
     return fault;
 }
 
@@ -65,12 +65,12 @@ void ControllerText::readBase(const QString& name)
 }
 
 /** Reads a line, or one line for each number of a range. A range in the answer counts along with the command's. */
-void ControllerText::expand(const QString& command, const QString& answer, int number)
+void ControllerText::expand(const QString& command, const QString& answer)
 {
     static const QRegularExpression range(R"(\[(\d+)-(\d+)\])");
     const QRegularExpressionMatch match = range.match(command);
     if (!match.hasMatch())
-        return readAnswer(command, answer, number);
+        return readAnswer(command, answer);
     const double first = match.captured(1).toDouble();
     const double last = match.captured(2).toDouble();
     demand(first <= last, "the range " + match.captured() + " runs backward");
@@ -79,13 +79,13 @@ void ControllerText::expand(const QString& command, const QString& answer, int n
         const QString digits = QString::number(first + i, 'f', 0).rightJustified(match.capturedLength(1), '0');
         QString next = command;
         next.replace(match.capturedStart(), match.capturedLength(), digits);
-        expand(next, QString(answer).replace(match.captured(), digits), number);
+        expand(next, QString(answer).replace(match.captured(), digits));
     }
 }
 
-void ControllerText::readAnswer(const QString& command, const QString& answer, int number)
+void ControllerText::readAnswer(const QString& command, const QString& answer)
 {
-    AnswerRow row = {unescaped(command), unescaped(answer), answer == failure, number};
+    AnswerRow row = {unescaped(command), unescaped(answer), answer == failure};
     if (row.isFailure)
         row.answer.clear();
     const QString problem = commandFault(row.command);
@@ -125,7 +125,7 @@ QString changeTable(ControllerTable* table, const QString& lines)
     ControllerText text(&changed);
     const QStringList all = linesOf(lines.toUtf8());
     for (int i = 0; i < all.size(); ++i) {
-        QString fault = text.read(all.at(i), i + 1);
+        QString fault = text.read(all.at(i));
         if (!fault.isEmpty())
             return all.size() == 1 ? fault : QString("line %1: %2").arg(i + 1).arg(fault);
     }

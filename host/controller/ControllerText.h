@@ -15,14 +15,14 @@ public:
     /** \a files are the file that is read and those that led to it by "from", last first; none for pasted lines. */
     explicit ControllerText(ControllerTable* table, const QStringList& files = {}) : table(table), files(files) {}
 
-    /** Reads \a line, which has \a number in its file. Returns what is wrong with it, or an empty string. */
-    QString read(const QString& line, int number);
+    /** Reads \a line. Returns what is wrong with it, or an empty string. */
+    QString read(const QString& line);
 
 private:
     void readHeader(const QString& key, const QString& value);
     void readBase(const QString& name);
-    void readAnswer(const QString& command, const QString& answer, int number);
-    void expand(const QString& command, const QString& answer, int number);
+    void readAnswer(const QString& command, const QString& answer);
+    void expand(const QString& command, const QString& answer);
     void demand(bool condition, const QString& otherwise);
     void demandFirst(const QByteArray& left);
 

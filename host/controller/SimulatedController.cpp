@@ -51,7 +51,7 @@ bool SimulatedController::write(const Request& request)
         return false;
     if (decisive ? decisive->isFailure : !accepts(request))
         return false;
-    store(request.name, isNumber ? QByteArray::number(number, 'g', shownDigits) : request.value);
+    current.insert({request.name, isNumber ? QByteArray::number(number, 'g', shownDigits) : request.value});
     if (rule == Rule::Source)
         followSource(request.name.mid(request.name.lastIndexOf(' ') + 1), request.value);
     emit changed();
@@ -111,17 +111,11 @@ void SimulatedController::followSource(const QByteArray& card, const QByteArray&
     bool isLimit = false;
     bool isNumber = false;
     if (answerTo(divisor).toDouble(&isNumber) > maximum.toDouble(&isLimit) && isNumber && isLimit)
-        store(divisor, maximum);
+        current.insert({divisor, maximum});
     const QByteArray name = "synccard output " + card;
     const QByteArray output = answerTo(name);
     if (!output.isEmpty() && answerTo("synccard has_output " + card + ' ' + source + ' ' + output) != "yes")
-        store(name, "none");
-}
-
-void SimulatedController::store(const QByteArray& name, const QByteArray& value)
-{
-    const AnswerRow* row = current.find(name);
-    current.insert({name, value, false, row ? row->line : 0});
+        current.insert({name, "none"});
 }
 
 /** Returns the answer in the row of \a command; empty without one or if the command fails. */

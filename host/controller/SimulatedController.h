@@ -34,7 +34,6 @@ private:
     bool accepts(const Request& request) const;
     bool isBetween(const QByteArray& value, double minimum, const QByteArray& maximumCommand) const;
     void followSource(const QByteArray& card, const QByteArray& source);
-    void store(const QByteArray& name, const QByteArray& value);
     QByteArray answerTo(const QByteArray& command) const;
 
     ControllerTable current;
