@@ -81,12 +81,6 @@ QString DevelopmentHost::chooseController(const NamedController& chosen)
     return restart(chosen.table);
 }
 
-QString DevelopmentHost::rewindReplay()
-{
-    recorded.rewind();
-    return restart(simulated.table());
-}
-
 QString DevelopmentHost::changeController(const ControllerTable& table)
 {
     if (table.identity == simulated.table().identity) {

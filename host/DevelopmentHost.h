@@ -37,8 +37,6 @@ public:
     /** Restarts with the controller \a chosen, to which resetController() goes back from then on. */
     QString chooseController(const NamedController& chosen);
     QString resetController() { return chooseController(setup.controller); }
-    /** Answers from the beginning of the recording again, and restarts the module. Only while replaying. */
-    QString rewindReplay();
     /**
      * Lets the controller answer as \a table says from now on. Another protocol or model is a new connection, for which
      * the dialog must be closed. If the protocol crosses 0.13, the module is loaded again, because a dialog that has

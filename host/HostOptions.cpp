@@ -20,6 +20,7 @@ static bool printed(const QString& text)
 HostOptions::HostOptions(const QString& description)
 {
     parser.setApplicationDescription(description);
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions); // Qt's own options have one dash.
     parser.addOption({{"h", "help"}, "Shows this help."});
     parser.addOption({{"v", "version"}, "Shows the version."});
     parser.addOption({"list", "Lists the named controllers."});
@@ -32,36 +33,14 @@ HostOptions::HostOptions(const QString& description)
     parser.addOption({"latency", "Makes each command take <ms> milliseconds longer, 0 to 5000.", "ms", "0"});
     parser.addOption({"record", "Writes every command into <file>.", "file"});
     parser.addOption({"replay", "Answers from the recording <file> instead of a simulated controller.", "file"});
+    parser.addOption({"platform", "Shows the windows on Qt's <platform>, such as offscreen.", "platform"});
+    parser.addOption({"style", "Draws the windows in Qt's <style>, such as fusion.", "style"});
 }
 
-/**
- * Returns the program's name and all options with two dashes or one letter, with their values. Leaves the name and all
- * other options, Qt's own such as "-style", in \a argv.
- */
-static QStringList takeArguments(int& argc, char** argv)
+bool HostOptions::parse(int argc, char** argv)
 {
-    QStringList taken = {QString::fromLocal8Bit(argv[0])};
-    int kept = 1;
-    bool isQts = false;
-    for (int i = 1; i < argc; ++i) {
-        const QString text = QString::fromLocal8Bit(argv[i]);
-        if (text.startsWith('-'))
-            isQts = text.size() > 2 && text.at(1).isLetter();
-        if (isQts)
-            argv[kept++] = argv[i];
-        else
-            taken.append(text);
-    }
-    argc = kept;
-    return taken;
-}
-
-bool HostOptions::parse(int& argc, char** argv)
-{
-    const QStringList arguments = takeArguments(argc, argv);
-    int programNameOnly = 1;
-    const QCoreApplication application(programNameOnly, argv);
-    if (!parser.parse(arguments))
+    const QCoreApplication application(argc, argv);
+    if (!parser.parse(QCoreApplication::arguments()))
         return refuse(parser.errorText() + " See --help.");
     if (!parser.positionalArguments().isEmpty())
         return refuse("Unexpected argument '" + parser.positionalArguments().constFirst() + "'. See --help.");
@@ -71,15 +50,14 @@ bool HostOptions::parse(int& argc, char** argv)
         return printed(QCoreApplication::applicationName() + " " HOST_VERSION);
     if (parser.isSet("list"))
         return listControllers();
+    if (parser.isSet("platform"))
+        qputenv("QT_QPA_PLATFORM", parser.value("platform").toLocal8Bit());
+    if (parser.isSet("style"))
+        qputenv("QT_STYLE_OVERRIDE", parser.value("style").toLocal8Bit());
     host.pluginFile = parser.isSet("plugin") ? parser.value("plugin") : ModuleLoader::defaultFile();
     host.record = parser.value("record");
     host.replay = parser.value("replay");
     return checkTexts() && checkReplay() && readController() && readProtocol() && readFaults() && readLanguage();
-}
-
-bool HostOptions::checkRest(int argc, char** argv)
-{
-    return argc == 1 || refuse(QString("Unknown option '%1'. See --help.").arg(QString::fromLocal8Bit(argv[1])));
 }
 
 /** Lists name and description of each named controller, unless one of their files is broken. */

@@ -14,13 +14,10 @@ public:
     void addOption(const QCommandLineOption& option) { parser.addOption(option); }
 
     /**
-     * Reads the program's arguments, before there is a QApplication, which needs a display. Leaves the program's name
-     * and the options with one dash for QApplication in \a argv. Returns false if the program must end with status():
-     * 0 after --help, --version or --list, 2 after a mistake. All four are printed.
+     * Reads the program's arguments, before there is a QApplication, which needs a display. Returns false if the
+     * program must end with status(): 0 after --help, --version or --list, 2 after a mistake. All four are printed.
      */
-    bool parse(int& argc, char** argv);
-    /** Returns like parse(), false if QApplication has left an argument in \a argv, because it does not know it. */
-    bool checkRest(int argc, char** argv);
+    bool parse(int argc, char** argv);
     int status() const { return itsStatus; }
 
     QString value(const QString& option) const { return parser.value(option); }

@@ -81,8 +81,6 @@ void MainWindow::createRecordingMenu()
         return QString();
     });
     connect(menu, &QMenu::aboutToShow, stop, [this, stop] { stop->setEnabled(host->recorder().isRecording()); });
-    if (host->isReplaying())
-        add(menu, "Re&wind the replay", [this] { return host->rewindReplay(); });
 }
 
 void MainWindow::createControllerMenu()

@@ -18,9 +18,8 @@ int main(int argc, char* argv[])
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 #endif
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    const QApplication application(argc, argv);
-    if (!options.checkRest(argc, argv))
-        return options.status();
+    int nameOnly = 1; // Qt has an option --plugin of its own.
+    const QApplication application(nameOnly, argv);
     DevelopmentHost host(options.setup());
     MainWindow window(&host);
     Workbench workbench(&host);

@@ -110,7 +110,7 @@ void Layers::take(const QString& step)
     ControllerIdentity identity;
     ControllerTable table = controller.table();
     const QMap<QString, std::function<void()>> deeds = {
-        {"use", [&] { controller.setTable(tableOf(DATA_DIR "/" + rest)); }},
+        {"use", [&] { controller.setTable(tableOf(rest.endsWith(".txt") ? DATA_DIR "/" + rest : rest)); }},
         {"describe", [&] { hear(QString(table.description).remove(number)); }},
         {"identity", [&] { hear(connectionText(table.identity)); }},
         {"fill", [&] { change(rest.section(' ', 1) + '=' + QString(rest.section(' ', 0, 0).toInt(), 'x')); }},
@@ -130,7 +130,6 @@ void Layers::take(const QString& step)
         {"stop", [&] { recorder.stop(); }},
         {"lines", [&] { readLines(file); }},
         {"controller", [&] { hear(connectionText(replay.recordedController())); }},
-        {"rewind", [&] { replay.rewind(); }},
         {"end", [&] { hear(replay.isAtEnd() ? "at the end" : "before the end"); }},
         {"report", [&] { channel.reportError("a", "b", 2, rest.toLatin1()); }}};
     if (step.contains(" ="))

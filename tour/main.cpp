@@ -30,9 +30,8 @@ int main(int argc, char* argv[])
         return fail("--pictures " + pictures + ": the folder cannot be made");
 
     takeWarnings(noteWarning);
-    const QApplication application(argc, argv);
-    if (!options.checkRest(argc, argv))
-        return options.status();
+    int nameOnly = 1; // Qt has an option --plugin of its own.
+    const QApplication application(nameOnly, argv);
     const int status = Tour(options.setup(), pictures).run();
     return status == 0 && hasWarned ? 1 : status;
 }

@@ -25,13 +25,6 @@ bool Replay::isAtEnd() const
     return nextCommand() == lines.size();
 }
 
-void Replay::rewind()
-{
-    position = 0;
-    polls.clear();
-    hasDiffered = false;
-}
-
 void Replay::connected(const ControllerIdentity& controller)
 {
     take({connectionText(controller), true, {}});

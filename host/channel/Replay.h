@@ -27,8 +27,6 @@ public:
 
     /** Whether every command of the recording has been asked. */
     bool isAtEnd() const;
-    /** Goes back to the beginning, even after a difference. */
-    void rewind();
 
     void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
