@@ -57,5 +57,5 @@ bool ScriptedController::execute(Operation operation, const QByteArray& command,
     commands.append(text);
     if (number >= firstFailing && number < endOfFailing)
         return false;
-    return SimulatedController::execute(operation, command, answer);
+    return answering ? answering(operation, command, answer) : SimulatedController::execute(operation, command, answer);
 }

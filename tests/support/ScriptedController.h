@@ -34,6 +34,9 @@ public:
     /** Called in each command, report and message box with its text, as what runs an event loop would. */
     std::function<void(const QByteArray& text)> during = [](const QByteArray&) {};
 
+    /** Answers in place of the table, if it is set. */
+    std::function<bool(Operation operation, const QByteArray& command, QByteArray* answer)> answering;
+
     QByteArrayList commands; // in the order in which they were executed
     QVector<int> failed;     // positions in commands
     QByteArrayList reports;
