@@ -18,9 +18,10 @@ SessionFile::SessionFile(const QString& name)
 
 void SessionFile::readLine(const QByteArray& key, const QByteArray& value)
 {
-    static const QByteArrayList keys = {"protocol",     "answer",    "asks",          "unasked", "shows",  "report",
-                                        "stops",        "user",      "after",         "sends",   "ok",     "cancel",
-                                        "sends-report", "ok-report", "cancel-report", "ok-box",  "during", "leaves"};
+    static const QByteArrayList keys = {"protocol", "answer", "asks",         "unasked",   "shows",
+                                        "report",   "stops",  "user",         "after",     "sends",
+                                        "ok",       "cancel", "sends-report", "ok-report", "cancel-report",
+                                        "ok-box",   "during", "leaves",       "before"};
     if (key == "list")
         list = value;
     else if (key == "+")

@@ -43,7 +43,7 @@ void turnWheel(QWidget* widget)
 
 QString act(LoadedModule& module, const QByteArray& line)
 {
-    static const QByteArrayList onWidgets = {"key", "choose", "deselect", "wheel", "press"};
+    static const QByteArrayList onWidgets = {"key", "choose", "wheel", "press"};
     const QByteArrayList words = line.split(' ');
     const QByteArray& action = words.first();
     const int row = words.value(1).toInt();
@@ -59,7 +59,7 @@ QString act(LoadedModule& module, const QByteArray& line)
         {"key", [&] { QTest::keyClick(widget, keyOf(words.value(2))); }},
         {"choose", [&] { isDone = user.choose(words.at(1), words.mid(2).join(' ')); }},
         {"wheel", [&] { turnWheel(widget); }},
-        {"deselect", [&] { qobject_cast<QComboBox*>(widget)->setCurrentIndex(-1); }},
+        {"deselect", [&] { module.find<QComboBox>(words.value(1))->setCurrentIndex(-1); }},
         {"click", [&] { user.clickCell(row, column); }},
         {"delay", [&] { DialogUser::type(user.editDelay(row), words.value(2), keyOf(words.value(3, "Tab"))); }},
         {"text", [&] { table->item(row, column)->setText(words.value(3)); }},
@@ -70,6 +70,7 @@ QString act(LoadedModule& module, const QByteArray& line)
         {"answer", [&] { problem = module.link.script(line.mid(action.size() + 1)); }},
         {"leave", [&] { user.leave(words.value(1)); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
+        {"show", [&] { dialog->show(); }},
         {"hide", [&] { dialog->hide(); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
         {"delete-parent", [&] { delete module.parent; }},
@@ -124,6 +125,9 @@ void SessionRun::open()
     const QByteArrayList changes = lines("answer");
     for (const QByteArray& line : changes)
         keep(module.link.script(line));
+    const QByteArrayList before = lines("before");
+    for (const QByteArray& line : before)
+        keep(act(module, line));
     interruptions = lines("during");
     module.link.during = [this](const QByteArray& text) { interrupt(text); };
     QObject::connect(module.dialog(), &QDialog::finished, &module.channel, [this] { interrupt("finished"); });
