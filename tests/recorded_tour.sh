@@ -52,3 +52,8 @@ for name in $names; do
     [ "$(wc -l <"$recording")" -gt 2 ] || { echo "recorded_tour: $name: no command was asked" >&2; exit 1; }
 done
 expect "$folder/nonsense.txt" 0 "" --controller nonsense --replay "$folder/nonsense.txt"
+# The recording of one opening is a controller that answers another opening in the same way.
+for name in nonsense quillstone; do
+    expect "$name" 0 "" --controller "$folder/$name.txt" --record "$folder/$name-again.txt"
+    diff -u <(cut -d ' ' -f 2- "$folder/$name.txt") <(cut -d ' ' -f 2- "$folder/$name-again.txt") >&2
+done

@@ -6,7 +6,7 @@
 #include "NamedController.h"
 #include "Recorder.h"
 #include "Replay.h"
-#include "SimulatedController.h"
+#include "ScriptedController.h"
 
 #include <QMap>
 #include <QTemporaryDir>
@@ -35,15 +35,6 @@ private slots:
 };
 
 namespace {
-
-ControllerTable tableOf(const QString& name)
-{
-    ControllerTable table;
-    const QString problem = readTable(name, {}, &table);
-    if (!problem.isEmpty())
-        qFatal("%s", qPrintable(problem));
-    return table;
-}
 
 /** A command channel with all layers below it, as in the host, and what is heard of them. */
 class Layers : public QObject

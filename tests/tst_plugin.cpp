@@ -55,7 +55,7 @@ QStringList textsOfSession()
         module.user().leave("OK");
     });
     texts += QString(module.boxes.value(0)).split(": ");
-    module.link.script("synccard available = no");
+    module.link.script({"synccard available = no"});
     module.look();
     return texts << module.find<QLabel>("label_error")->text();
 }

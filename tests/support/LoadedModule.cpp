@@ -27,12 +27,19 @@ LoadedModule::LoadedModule(const QByteArrayList& script)
     : channel(&link), versions(backend("newest FERNBANK")), parent(new QWidget), loader(PLUGIN_FILE)
 {
     failOnWarnings();
-    for (const QByteArray& change : script) {
-        const QString fault = link.script(change);
-        if (!fault.isEmpty())
-            qFatal("%s", qPrintable(fault));
-    }
-    link.listen(channel);
+    const QString fault = link.script(script);
+    if (!fault.isEmpty())
+        qFatal("%s", qPrintable(fault));
+    QObject::connect(&channel, &ControllerChannel::executed, &channel, [this](const CommandRecord& record) {
+        if (record.result != 0)
+            link.failed.append(link.commands.size() - 1);
+    });
+    QObject::connect(&channel, &ControllerChannel::reported, &channel,
+                     [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
+                         const bool isConvention = category == "standard" && systemTag == "ZORVAN3" && flag == 1;
+                         link.reports.append((isConvention ? "" : "wrong convention: ") + message.toLatin1());
+                         link.during(message.toLatin1());
+                     });
     if (!loader.load())
         qFatal("%s", qPrintable(loader.errorString()));
     loader.setParameters(&channel, parent, &versions, false);

@@ -1,26 +1,21 @@
 #include "ScriptedController.h"
 
-#include "ControllerChannel.h"
 #include "ControllerFile.h"
 #include "ControllerText.h"
-#include "ControllerVocabulary.h"
 
-static ControllerTable standardTable()
+ControllerTable tableOf(const QString& name)
 {
-    ControllerTable standard;
-    const QString problem = readTable(DATA_DIR "/standard-controller.txt", {}, &standard);
+    ControllerTable table;
+    const QString problem = readTable(name, {}, &table);
     if (!problem.isEmpty())
         qFatal("%s", qPrintable(problem));
-    return standard;
+    return table;
 }
 
-ScriptedController::ScriptedController() : SimulatedController(standardTable())
-{}
-
-QString ScriptedController::script(const QByteArray& line)
+QString ScriptedController::script(const QByteArrayList& lines)
 {
     ControllerTable changed = table();
-    QString fault = changeTable(&changed, QString::fromLatin1(line));
+    QString fault = changeTable(&changed, QString::fromLatin1(lines.join('\n')));
     setTable(changed);
     return fault;
 }
@@ -33,20 +28,6 @@ void ScriptedController::restart(const ControllerTable& table, int first, int en
     takeCommands();
     failed.clear();
     reports.clear();
-}
-
-void ScriptedController::listen(const ControllerChannel& channel)
-{
-    QObject::connect(&channel, &ControllerChannel::executed, &channel, [this](const CommandRecord& record) {
-        if (record.result != 0)
-            failed.append(commands.size() - 1);
-    });
-    QObject::connect(&channel, &ControllerChannel::reported, &channel,
-                     [this](const QString& category, const QString& systemTag, int flag, const QString& message) {
-                         const bool isConvention = category == "standard" && systemTag == "ZORVAN3" && flag == 1;
-                         reports.append((isConvention ? "" : "wrong convention: ") + message.toLatin1());
-                         during(message.toLatin1());
-                     });
 }
 
 bool ScriptedController::execute(Operation operation, const QByteArray& command, QByteArray* answer)

@@ -5,26 +5,24 @@
 #include <functional>
 #include <utility>
 
-class ControllerChannel;
+/** Reads the controller \a name, a name or a file; ends the program when it cannot be read. */
+ControllerTable tableOf(const QString& name);
 
 /**
  * The controller of most tests: tests/data/standard-controller.txt, changed by the lines of a case. It can fail
- * commands by their number, and keeps each command behind its operation ("get synccard available"), and each report of
- * the channel above it.
+ * commands by their number, and keeps each command behind its operation ("get synccard available"). LoadedModule adds
+ * what the channel above it logs as failed, and each report.
  */
 class ScriptedController : public SimulatedController
 {
 public:
-    ScriptedController();
+    ScriptedController() : SimulatedController(tableOf(DATA_DIR "/standard-controller.txt")) {}
 
-    /** Changes the table by a line of a controller file. Returns an error message, or an empty string on success. */
-    QString script(const QByteArray& line);
+    /** Changes the table by lines of a controller file. Returns an error message, or an empty string on success. */
+    QString script(const QByteArrayList& lines);
 
     /** Forgets what was asked and reported. Fails the commands from \a first to the one before \a end, from 0. */
     void restart(const ControllerTable& table, int first = 0, int end = 0);
-
-    /** Keeps the failed commands of \a channel and what is reported to it. */
-    void listen(const ControllerChannel& channel);
 
     /** Returns the commands since the last call. */
     QByteArrayList takeCommands() { return std::exchange(commands, {}); }

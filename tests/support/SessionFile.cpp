@@ -14,6 +14,8 @@ SessionFile::SessionFile(const QString& name)
         if (!line.isEmpty() && !line.startsWith('#'))
             readLine(line.left(blank), line.mid(blank + 1));
     }
+    if (!unused.isEmpty())
+        qFatal("%s: nothing uses the list: %s", qPrintable(name), unused.join(", ").constData());
 }
 
 void SessionFile::readLine(const QByteArray& key, const QByteArray& value)
@@ -23,6 +25,8 @@ void SessionFile::readLine(const QByteArray& key, const QByteArray& value)
                                         "ok",       "cancel", "sends-report", "ok-report", "cancel-report",
                                         "ok-box",   "during", "leaves",       "before"};
     if (key == "list")
+        unused.append(value);
+    if (key == "list" || key == "phase")
         list = value;
     else if (key == "+")
         lists[list].append(value);
@@ -35,7 +39,7 @@ void SessionFile::readLine(const QByteArray& key, const QByteArray& value)
 }
 
 /** The line itself, or the lines of the list that it names, "@NAME: A|B", with its parameters filled in. */
-QByteArrayList SessionFile::expanded(const QByteArray& line) const
+QByteArrayList SessionFile::expanded(const QByteArray& line)
 {
     if (!line.startsWith('@'))
         return {line};
@@ -44,6 +48,7 @@ QByteArrayList SessionFile::expanded(const QByteArray& line) const
     const QByteArrayList arguments = colon < 0 ? QByteArrayList() : line.mid(colon + 2).split('|');
     if (!lists.contains(name))
         qFatal("%s: unknown list: %s", place.constData(), line.constData());
+    unused.removeAll(name);
     QByteArrayList found;
     for (QByteArray text : lists.value(name)) {
         for (int i = 0; i < arguments.size(); ++i)

@@ -22,7 +22,7 @@ Q_DECLARE_METATYPE(Session)
 
 /**
  * Reads cases, and named lists of lines; tests/data/sessions.txt describes the format. Ends the program at an unknown
- * key or list.
+ * key or list, and at a list that nothing uses.
  */
 class SessionFile
 {
@@ -35,10 +35,11 @@ public:
 
 private:
     void readLine(const QByteArray& key, const QByteArray& value);
-    QByteArrayList expanded(const QByteArray& line) const;
+    QByteArrayList expanded(const QByteArray& line);
 
-    QByteArray list;  // the list that is being read
-    QByteArray place; // of the line that is being read
+    QByteArrayList unused; // lists
+    QByteArray list;       // the list that is being read
+    QByteArray place;      // of the line that is being read
 };
 
 /** One row for each case and protocol of a file of tests/data, for a test with the parameter "session". */

@@ -1,5 +1,7 @@
 #include "SessionRun.h"
 
+#include "ControllerText.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
@@ -67,7 +69,7 @@ QString act(LoadedModule& module, const QByteArray& line)
         {"press", [&] { QTest::keySequence(dialog, QString(words.value(2))); }},
         {"walk", [&] { problem = walk(dialog, words.mid(1)); }},
         {"poll", [&] { run("poll_input_frequency"); }},
-        {"answer", [&] { problem = module.link.script(line.mid(action.size() + 1)); }},
+        {"answer", [&] { problem = module.link.script({line.mid(action.size() + 1)}); }},
         {"leave", [&] { user.leave(words.value(1)); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
         {"show", [&] { dialog->show(); }},
@@ -96,6 +98,20 @@ QString difference(const QByteArrayList& found, const QByteArrayList& expected)
         .arg(QString::number(i + 1), QString(expected.value(i, "(the end)")), QString(found.value(i, "(the end)")));
 }
 
+/** Returns the first answer of the case that none of the commands \a asked is for, or an empty string. */
+static QByteArray unaskedAnswer(const Session& session, const QByteArray& asked)
+{
+    const QByteArrayList answers = session.lines.value("answer") + session.lines.value("again-answer");
+    for (const QByteArray& line : answers) {
+        ControllerTable table;
+        changeTable(&table, QString::fromLatin1(line));
+        const auto isAsked = [&](const AnswerRow& row) { return asked.contains(row.command); };
+        if (std::none_of(table.rows().begin(), table.rows().end(), isAsked))
+            return line;
+    }
+    return {};
+}
+
 QString SessionRun::problemOf(const Session& session)
 {
     if (session.lines.size() == 1) // the protocol
@@ -103,6 +119,7 @@ QString SessionRun::problemOf(const Session& session)
     const QByteArrayList ways = {"OK", "Cancel", "Escape", "close"};
     const auto again = session.lines.lowerBound("again-");
     const bool isTwice = again != session.lines.end() && again.key().startsWith("again-");
+    QByteArray asked;
     for (const QByteArray& way : session.lines.value("leaves", ways)) {
         SessionRun run(session, way);
         run.open();
@@ -113,8 +130,10 @@ QString SessionRun::problemOf(const Session& session)
         }
         if (!run.problem.isEmpty())
             return session.place + ": leaving by " + way + ": " + run.problem;
+        asked += run.asked;
     }
-    return {};
+    const QByteArray unasked = unaskedAnswer(session, asked);
+    return unasked.isEmpty() ? QString() : session.place + ": nothing asks for " + unasked;
 }
 
 /** One opening, as the lines whose keys begin with the prefix say, and leaving it. */
@@ -122,9 +141,7 @@ void SessionRun::open()
 {
     isOk = false;
     module.connectTo(session.text(prefix + "protocol", session.text("protocol")));
-    const QByteArrayList changes = lines("answer");
-    for (const QByteArray& line : changes)
-        keep(module.link.script(line));
+    keep(module.link.script(lines("answer")));
     const QByteArrayList before = lines("before");
     for (const QByteArray& line : before)
         keep(act(module, line));
@@ -200,6 +217,7 @@ void SessionRun::compare(const QString& what, const QByteArrayList& found, const
 /** Does what a line "during TEXT -> ACTION" says, once, in the first command or report that is this text. */
 void SessionRun::interrupt(const QByteArray& text)
 {
+    asked += text + '\n';
     const auto isMeant = [&](const QByteArray& line) { return line.startsWith(text + " -> "); };
     const auto line = std::find_if(interruptions.begin(), interruptions.end(), isMeant);
     if (line == interruptions.end())

@@ -32,6 +32,7 @@ private:
     const Session& session;
     QByteArray prefix; // of the keys of this opening
     QByteArray way;
+    QByteArray asked;             // each command in a line
     QByteArrayList interruptions; // that have not happened yet
     LoadedModule module;
     QString problem; // the first thing that differed from the case
