@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSet>
 
 enum Column { CommandColumn, AnswerColumn };
 
@@ -31,10 +32,10 @@ static QStringList linesOf(const ControllerTable& table)
 }
 
 ControllerPane::ControllerPane(DevelopmentHost* host)
-    : host(host), table(new FilteredTable(&rows, "Answers of the simulated controller")), problem(new QLabel)
+    : host(host), opened(host->controller().table()),
+      table(new FilteredTable(&rows, "Answers of the simulated controller")), problem(new QLabel)
 {
     rows.setHorizontalHeaderLabels({"Command", "Answer"});
-    markFromNow();
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table->addAction("&Paste", QKeySequence::Paste, [this] { change(QApplication::clipboard()->text()); });
     table->addAction("&Delete", QKeySequence::Delete, [this] { removeRows(); });
@@ -58,10 +59,13 @@ ControllerPane::ControllerPane(DevelopmentHost* host)
     refreshing.setSingleShot(true);
     connect(&refreshing, &QTimer::timeout, this, &ControllerPane::refresh);
     connect(&host->controller(), &SimulatedController::changed, this, [this] { refreshing.start(); });
-    connect(&host->channel(), &ControllerChannel::executed, this, [this](const CommandRecord& record) {
-        if (traitsOf(record.text()).beginsOpening)
-            markFromNow();
+    connect(&host->channel(), &ControllerChannel::executed, this, [this, host](const CommandRecord& record) {
+        if (!traitsOf(record.text()).beginsOpening)
+            return;
+        opened = host->controller().table();
+        refreshing.start();
     });
+    refresh();
 }
 
 /** Changes the controller by \a text, lines of a controller file. Either all lines are accepted or none. */
@@ -86,26 +90,20 @@ void ControllerPane::removeRows()
     problem->setText(host->changeController(changed));
 }
 
-void ControllerPane::markFromNow()
-{
-    const QStringList lines = linesOf(host->controller().table());
-    marked.clear();
-    for (const QString& line : lines)
-        marked.insert(line);
-    refresh();
-}
-
 void ControllerPane::refresh()
 {
     const QStringList lines = linesOf(host->controller().table());
+    QSet<QString> unchanged;
+    const QStringList before = linesOf(opened);
+    for (const QString& line : before)
+        unchanged.insert(line);
     rows.setRowCount(lines.size());
     for (int row = 0; row < lines.size(); ++row)
-        showLine(row, lines.at(row));
+        showLine(row, lines.at(row), !unchanged.contains(lines.at(row)));
 }
 
-void ControllerPane::showLine(int row, const QString& line)
+void ControllerPane::showLine(int row, const QString& line, bool isChanged)
 {
-    const bool isChanged = !marked.contains(line);
     const QStandardItem* const present = rows.item(row);
     if (present && present->data(FilteredTable::lineRole) == line && present->font().bold() == isChanged)
         return;

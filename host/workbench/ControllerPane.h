@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QSet>
+#include "ControllerTable.h"
+
 #include <QStandardItemModel>
 #include <QTimer>
 #include <QWidget>
@@ -23,14 +24,13 @@ public:
 private:
     void change(const QString& text);
     void removeRows();
-    void markFromNow();
     void refresh();
-    void showLine(int row, const QString& line);
+    void showLine(int row, const QString& line, bool isChanged);
 
     DevelopmentHost* host;
+    ControllerTable opened; // the controller's, when the dialog was last opened
     QStandardItemModel rows;
     FilteredTable* table;
-    QLabel* problem; // of the last change
-    QSet<QString> marked;
+    QLabel* problem;   // of the last change
     QTimer refreshing; // refreshes once after a burst of commands
 };

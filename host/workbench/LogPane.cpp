@@ -14,9 +14,12 @@
 #include <QScrollBar>
 #include <QTime>
 
+#include <utility>
+
 static constexpr int answerColumn = 3;
 static constexpr int sumMilliseconds = 100;    // so that no opening waits for the sum
-static constexpr double slowMilliseconds = 10; // more than it takes to paint the table
+static constexpr int slowMicroseconds = 10000; // more than it takes to paint the table
+static constexpr char timeFormat[] = "HH:mm:ss.zzz";
 
 /** What the first cell of a row has besides its line. */
 enum Role {
@@ -40,14 +43,10 @@ LogPane::LogPane(DevelopmentHost* host)
     connect(&host->channel(), &ControllerChannel::executed, this, &LogPane::addCommand);
     connect(&host->channel(), &ControllerChannel::reported, this,
             [this](auto& category, auto& tag, int flag, auto& message) {
-                addRow({"report",
-                        escaped(message.toLatin1()),
-                        QString("%1 %2 %3").arg(category, tag, QString::number(flag)),
-                        {},
-                        {}},
-                       true);
+                addMessage("report", escaped(message.toLatin1()),
+                           QString("%1 %2 %3").arg(category, tag, QString::number(flag)));
             });
-    connect(host, &DevelopmentHost::noted, this, [this](auto& text) { addRow({"note", text, {}, {}, {}}, true); });
+    connect(host, &DevelopmentHost::noted, this, [this](auto& text) { addMessage("note", text, {}); });
     showing.setSingleShot(true);
     connect(&showing, &QTimer::timeout, this, &LogPane::showPending);
     summing.setSingleShot(true);
@@ -62,12 +61,14 @@ LogPane::LogPane(DevelopmentHost* host)
 /** Shows a slow command at once: no event loop may run before the module has asked all its commands. */
 void LogPane::addCommand(const CommandRecord& record)
 {
-    const bool hasFailed = record.result != 0;
-    const double milliseconds = static_cast<double>(record.microseconds) / 1000.0;
-    addRow({textOf(record.operation), escaped(record.command), escaped(record.answer), hasFailed ? "failed" : "ok",
-            QString("%1 ms").arg(milliseconds, 0, 'f', 3)},
-           hasFailed, milliseconds, traitsOf(record.text()).isPolled && !hasFailed);
-    if (milliseconds < slowMilliseconds)
+    addLater([this, record, time = QTime::currentTime()] {
+        const bool hasFailed = record.result != 0;
+        const double milliseconds = static_cast<double>(record.microseconds) / 1000.0;
+        addRow({time.toString(timeFormat), textOf(record.operation), escaped(record.command), escaped(record.answer),
+                hasFailed ? "failed" : "ok", QString("%1 ms").arg(milliseconds, 0, 'f', 3)},
+               hasFailed, milliseconds, traitsOf(record.text()).isPolled && !hasFailed);
+    });
+    if (record.microseconds < slowMicroseconds)
         return;
     showPending();
     if (followsEnd)
@@ -77,32 +78,40 @@ void LogPane::addCommand(const CommandRecord& record)
     sum->repaint();
 }
 
-/** Adds a row with the present time and \a texts. */
+void LogPane::addMessage(const QString& kind, const QString& text, const QString& origin)
+{
+    const QString time = QTime::currentTime().toString(timeFormat);
+    addLater([=] { addRow({time, kind, text, origin, {}, {}}, true); });
+}
+
+void LogPane::addLater(const std::function<void()>& add)
+{
+    pending.append(add);
+    showing.start();
+}
+
 void LogPane::addRow(const QStringList& texts, bool isBold, const QVariant& milliseconds, bool isPoll)
 {
-    const QString time = QTime::currentTime().toString("HH:mm:ss.zzz");
-    pending.append({QStringList(time) + texts, isBold, milliseconds, isPoll});
-    showing.start();
+    QFont bold;
+    bold.setBold(true);
+    QList<QStandardItem*> items;
+    for (const QString& text : texts) {
+        items.append(new QStandardItem(text));
+        items.last()->setToolTip(FilteredTable::toolTip(text));
+        if (isBold)
+            items.last()->setFont(bold);
+    }
+    items.first()->setData(texts.join('\t'), FilteredTable::lineRole);
+    items.first()->setData(isPoll ? "poll" : "row", KindRole);
+    items.first()->setData(milliseconds, DurationRole);
+    log.appendRow(items);
 }
 
 void LogPane::showPending()
 {
-    QFont bold;
-    bold.setBold(true);
-    for (const Row& row : qAsConst(pending)) {
-        QList<QStandardItem*> items;
-        for (const QString& text : row.texts) {
-            items.append(new QStandardItem(text));
-            items.last()->setToolTip(FilteredTable::toolTip(text));
-            if (row.isBold)
-                items.last()->setFont(bold);
-        }
-        items.first()->setData(row.texts.join('\t'), FilteredTable::lineRole);
-        items.first()->setData(row.isPoll ? "poll" : "row", KindRole);
-        items.first()->setData(row.milliseconds, DurationRole);
-        log.appendRow(items);
-    }
-    pending.clear();
+    const auto added = std::exchange(pending, {});
+    for (const auto& add : added)
+        add();
 }
 
 void LogPane::setColumnWidths()

@@ -4,6 +4,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 class DevelopmentHost;
 class FilteredTable;
 class QBoxLayout;
@@ -24,15 +26,8 @@ public:
 
 private:
     void addCommand(const CommandRecord& record);
-    /** A row that is not in the table yet. */
-    struct Row
-    {
-        QStringList texts;
-        bool isBold;
-        QVariant milliseconds; // of a command
-        bool isPoll;
-    };
-
+    void addMessage(const QString& kind, const QString& text, const QString& origin);
+    void addLater(const std::function<void()>& add);
     void addRow(const QStringList& texts, bool isBold, const QVariant& milliseconds = {}, bool isPoll = false);
     void showPending();
     void setColumnWidths();
@@ -41,7 +36,7 @@ private:
     void sumUp();
 
     QStandardItemModel log;
-    QVector<Row> pending; // shown together from the event loop, so that the log slows no opening down
+    QVector<std::function<void()>> pending; // add rows from the event loop, so that the log slows no opening down
     QTimer showing;
     QSortFilterProxyModel* unpolled; // without the polls, if they are hidden
     FilteredTable* table;
