@@ -1,6 +1,5 @@
 #include "ControllerPane.h"
 #include "DevelopmentHost.h"
-#include "Files.h"
 #include "FilteredTable.h"
 #include "LoadedModule.h"
 #include "LogPane.h"
@@ -38,9 +37,7 @@ struct Windows
         : host((readController("full", &setup.controller), setup)), window(&host), workbench(&host),
           log(workbench.findChild<LogPane*>()->findChild<FilteredTable*>()), rows(log->model())
     {
-        const QString problem = host.start(&window);
-        if (!problem.isEmpty())
-            QTest::qFail(qPrintable(problem), __FILE__, __LINE__);
+        QCOMPARE(host.start(&window), QString());
         workbench.show();
         window.show();
     }
@@ -240,6 +237,10 @@ void TestWorkbench::editsTheController()
         QCOMPARE(windows.see("label_inputFrequency"), QString("7"));
         QVERIFY(edit("protocol", "0.12.7").endsWith("Close the dialog first."));
     });
+    const qint64 unlocked = windows.host.dialog()->windowIcon().cacheKey();
+    paste("config is_changeable = no");
+    windows.open();
+    QVERIFY(windows.host.dialog()->windowIcon().cacheKey() != unlocked);
     QCOMPARE(edit("max_internal_frequency d01", "80"), QString("synccard max_internal_frequency d01 * = 80"));
     windows.type(table->filter(), "synccard synccard d0");
     table->setFocus();

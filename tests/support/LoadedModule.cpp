@@ -6,8 +6,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-static constexpr int pollMilliseconds = 1;
-
 void failOnWarnings()
 {
     takeWarnings([](const QString& message) { QTest::qFail(qPrintable("Qt says: " + message), __FILE__, __LINE__); });
@@ -45,7 +43,7 @@ LoadedModule::LoadedModule(const QByteArrayList& script)
     loader.setParameters(&channel, parent, &versions, false);
     element = loader.module()->get_gui_elements().first();
     QObject::connect(&boxPoller, &QTimer::timeout, &boxPoller, [this] { closeBox(); });
-    boxPoller.start(pollMilliseconds);
+    boxPoller.start(0);
     parent->show();
 }
 

@@ -30,15 +30,20 @@ QString walk(const QDialog* dialog, const QByteArrayList& controls)
     return difference(reached, controls + controls.mid(0, 1));
 }
 
-/** Turns the wheel as the window system does. */
+/** Sends \a event as the window system does. sendEvent() would make it an event of the program's own. */
+void sendAsSystem(QWidget* widget, QEvent* event)
+{
+    QSpontaneKeyEvent::setSpontaneous(event);
+    QApplication::instance()->notify(widget, event);
+}
+
 void turnWheel(QWidget* widget)
 {
     const QPoint center = widget->rect().center();
     QWidget* child = widget->childAt(center);
     QWheelEvent event(center, widget->mapToGlobal(center), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    QApplication::instance()->notify(child ? child : widget, &event);
+    sendAsSystem(child ? child : widget, &event);
 }
 
 } // namespace
@@ -49,12 +54,12 @@ QString act(LoadedModule& module, const QByteArray& line)
     const QByteArrayList words = line.split(' ');
     const QByteArray& action = words.first();
     const int row = words.value(1).toInt();
-    const int column = action == "delay" ? 1 : words.value(2).toInt();
+    const int column = words.value(2).toInt();
     const DialogUser user = module.user();
     QDialog* dialog = module.dialog();
     auto* widget = module.find<QWidget>(words.value(1));
     auto* table = module.find<QTableWidget>("tableWidget_channels");
-    const auto run = [&](const char* slot) { QMetaObject::invokeMethod(dialog, slot); };
+    QHideEvent minimizing;
     bool isDone = true;
     QString problem;
     const QMap<QByteArray, std::function<void()>> actions = {
@@ -68,11 +73,12 @@ QString act(LoadedModule& module, const QByteArray& line)
         {"take", [&] { delete table->takeItem(row, column); }},
         {"press", [&] { QTest::keySequence(dialog, QString(words.value(2))); }},
         {"walk", [&] { problem = walk(dialog, words.mid(1)); }},
-        {"poll", [&] { run("poll_input_frequency"); }},
+        {"poll", [&] { QMetaObject::invokeMethod(dialog, "poll_input_frequency"); }},
         {"answer", [&] { problem = module.link.script({line.mid(action.size() + 1)}); }},
         {"leave", [&] { user.leave(words.value(1)); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
         {"show", [&] { dialog->show(); }},
+        {"minimize", [&] { sendAsSystem(dialog, &minimizing); }},
         {"hide", [&] { dialog->hide(); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
         {"delete-parent", [&] { delete module.parent; }},
