@@ -47,7 +47,7 @@ broken=$prefix/share/synccard-host/controllers/broken.txt
 echo 'config is_changeable' >"$broken"
 expect 2 "synccard-host: $broken:1: \"COMMAND = ANSWER\" is expected" --list
 
-"$host" --controller locked --language de &
+env -u DISPLAY -u QT_QPA_PLATFORM "$host" -platform offscreen --controller locked --language de &
 process=$!
 trap 'kill $process 2>/dev/null || true' EXIT
 for ((tries = 0; tries < 300; ++tries)); do

@@ -131,7 +131,6 @@ void TestPlugin::takesParameters()
 /** Unloading takes away every widget and resource. */
 void TestPlugin::leavesNothing()
 {
-    QString file;
     QTableWidget other(1, 1);
     other.setItem(0, 0, new QTableWidgetItem("x"));
     {
@@ -139,10 +138,9 @@ void TestPlugin::leavesNothing()
         module.look();
         // The style keeps the text of the cell it painted last, and reads it again when it paints the next one.
         module.find<QTableWidget>("tableWidget_synccards")->grab();
-        file = module.loader.fileName();
     }
     other.grab();
-    QPluginLoader forgetful(file);
+    QPluginLoader forgetful(LoadedModule().loader.fileName());
     forgetful.setLoadHints({});
     auto* interface = qobject_cast<ModuleInterface*>(forgetful.instance());
     QVERIFY(!interface->get_gui_elements().isEmpty());
