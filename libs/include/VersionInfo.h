@@ -24,8 +24,8 @@ public:
 
     /**
      * Reads "1.23.0" or "1.23". A missing patch counts as 0. Refuses blanks and plus signs.
-     * Sets \a ok, which may be null, to true if \a text is a version. Otherwise sets it to false and changes nothing
-     * else.
+     * Sets \a ok, which may be null, to true if \a text is a version. Otherwise sets it to false and
+     * leaves this version unchanged.
      */
     void fromString(const QString& text, bool* ok = nullptr)
     {

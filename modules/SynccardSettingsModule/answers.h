@@ -14,8 +14,8 @@ public:
     QString text() const { return latin1(); }
 
     /**
-     * Returns the text between the first two double quotes. If there is only one, returns the text after it. If there
-     * is no quote, returns an empty string.
+     * Returns the text between the first two double quotes. If there is only one, returns the text after it. Without
+     * a quote, returns an empty string.
      */
     QString quoted() const
     {
