@@ -12,7 +12,7 @@ class QLabel;
 
 /**
  * Shows and edits the table of the host's simulated controller as a controller file writes it, from the protocol on.
- * Rows that differ from when the dialog was last opened are bold and have a star. Does not own the host.
+ * Rows that have changed since the dialog was last opened are bold and have a star. Does not own the host.
  */
 class ControllerPane : public QWidget
 {
