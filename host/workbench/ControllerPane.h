@@ -28,7 +28,7 @@ private:
     void showLine(int row, const QString& line, bool isChanged);
 
     DevelopmentHost* host;
-    ControllerTable opened; // the controller's, when the dialog was last opened
+    ControllerTable opened; // the controller's table at the last opening
     QStandardItemModel rows;
     FilteredTable* table;
     QLabel* problem;   // of the last change

@@ -17,8 +17,8 @@
  * A parameter command is a name with its qualifiers ("synccard source d01"). The channel adds the get or set framing.
  *
  * Any operation may run an event loop, to wait for the answer or to show a box. While an operation runs, a module
- * starts nothing that sends commands. The host must not end the module or delete its parent widget inside an operation,
- * because the code that called the operation might be unloaded before the operation returns.
+ * starts nothing that sends commands. Inside an operation, the host must not end the module or delete its parent
+ * widget. Otherwise the code that called the operation might be unloaded before the operation returns.
  *
  * Answer buffers belong to the caller and carry no size. The channel writes a terminated Latin-1 string of at
  * most 200 characters, including the terminator. The limit is 16 for getParameter() of "synccard has_input_frequency"

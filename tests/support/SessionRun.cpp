@@ -30,7 +30,7 @@ QString walk(const QDialog* dialog, const QByteArrayList& controls)
     return difference(reached, controls + controls.mid(0, 1));
 }
 
-/** Sends \a event as the window system does. sendEvent() would make it an event of the program's own. */
+/** Sends \a event as the window system does. With sendEvent() it would count as an event of the program. */
 void sendAsSystem(QWidget* widget, QEvent* event)
 {
     QSpontaneKeyEvent::setSpontaneous(event);
