@@ -5,7 +5,7 @@
 
 namespace {
 
-// All in pixels, as in the module.
+// All sizes are in pixels, as in the module.
 constexpr int cardRowHeight = 28;
 constexpr int channelRowHeight = 20;
 constexpr int initialColumnWidth = 200;

@@ -18,7 +18,7 @@ void open(QDialog* dialog, const std::function<void()>& inside)
     QMetaObject::invokeMethod(dialog, "update_and_exec");
 }
 
-/** Names the widget of the line \a module and shows where the line \a bare differs: a line may be long. */
+/** Returns a message: the name of the widget, and an excerpt of both lines, which may be long, at their difference. */
 static QString firstDifference(const QString& module, const QString& bare)
 {
     const auto* const end = std::mismatch(module.begin(), module.end(), bare.begin(), bare.end()).first;

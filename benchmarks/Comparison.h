@@ -18,12 +18,12 @@ class Comparison
 public:
     explicit Comparison(const Workload& workload);
 
-    /** The module's dialog, which this constructs if there is none. */
+    /** Returns the module's dialog. Constructs it if it does not exist. */
     QDialog* module() const;
 
     /**
-     * Returns why the dialogs cannot be compared, or an empty string: they show different texts, their pictures differ,
-     * the module reports an error, or its second opening does not read as many commands as the first one.
+     * Returns why the dialogs cannot be compared, or an empty string. The reasons: their texts or pictures differ, the
+     * module reports an error, or its second opening does not read as many commands as the first one.
      */
     QString difference();
 
@@ -31,5 +31,5 @@ public:
     BackendVersions versions;
     QWidget parent; // of both dialogs
     BareDialog bare;
-    ModuleLoader loader; // declared last, so that the module ends before what it uses
+    ModuleLoader loader; // declared last, so that the module ends before the objects that it uses
 };

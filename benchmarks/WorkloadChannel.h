@@ -6,7 +6,7 @@
 
 #include <string_view>
 
-/** How many channels, modes and cards a controller offers. Both dialogs of a comparison show the same workload. */
+/** The number of channels, modes and cards of a controller. Both dialogs of a comparison show the same workload. */
 struct Workload
 {
     int channels;
@@ -22,7 +22,7 @@ constexpr double maximumValue = 300.0;
 
 /**
  * A command channel that takes almost no time. It answers by the name of the parameter and formats nothing, so all
- * channels, modes and cards have the same values. A parameter that it does not know is "yes", true, 1 or 120.25.
+ * channels, modes and cards have the same values. The value of an unknown parameter is "yes", true, 1 or 120.25.
  */
 class WorkloadChannel : public IOManager
 {
@@ -34,7 +34,7 @@ public:
     int getParameterInt(int* result, const char* format, ...) override;
     int getParameterDouble(double* result, const char* format, ...) override;
     int getParameterBool(bool* result, const char* format, ...) override;
-    /** Fails, so that the module reports the write: an opening writes nothing. */
+    /** Fails, so that the module reports an unexpected write. An opening writes nothing. */
     int setParameter(const char* /*format*/, ...) override { return -1; }
     void reportError(const char*, const char*, int, const char* message) override { reports.append(message); }
 

@@ -22,7 +22,7 @@ struct Opening
 constexpr Opening openings[] = {{{8, 8, 1}, 1.10}, {{8, 99, 1}, 1.10}, {{99, 8, 1}, 0.80}, {{99, 99, 99}, 0.90}};
 constexpr Workload typical = openings[0].workload;
 constexpr int rounds = 401;
-constexpr double tolerance = 1.1; // a median this much over its goal fails the run: machines are noisy
+constexpr double tolerance = 1.1; // a median over this multiple of its goal fails the run, because machines are noisy
 
 double median(QVector<double> values)
 {
@@ -74,8 +74,8 @@ int measureConstruction()
 }
 
 /**
- * Compares what the module and the bare dialog show of each workload, and measures them, too, if \a isTimed is true.
- * Returns 0 if nothing differs and every median is within its goal.
+ * Compares the content of the module's dialog and the bare dialog for each workload. Measures both if \a isTimed is
+ * true. Returns 0 if nothing differs and no median is over its goal by more than a tenth.
  */
 int compareOpenings(bool isTimed)
 {
@@ -92,11 +92,11 @@ int compareOpenings(bool isTimed)
     return status;
 }
 
-/** Measures polls. Each of them reads another sync input than the poll before. */
+/** Measures polls. Each poll reads a different sync input from the poll before. */
 int measurePolls()
 {
     constexpr int polls = 500;
-    constexpr double extraMicroseconds = 1.0; // per poll, because a ratio says nothing about so short a time
+    constexpr double extraMicroseconds = 1.0; // per poll, because a ratio means nothing for so short a time
     Comparison both(typical);
     const auto pollModule = [&] {
         for (int i = 0; i < polls; ++i) {
@@ -119,7 +119,7 @@ int measurePolls()
     return status;
 }
 
-/** The bytes of heap in use after every deleteLater() has been carried out. */
+/** Returns the bytes of heap in use after carrying out every deleteLater(). */
 qint64 heapInUse()
 {
     QApplication::sendPostedEvents();
@@ -127,7 +127,7 @@ qint64 heapInUse()
     return static_cast<qint64>(mallinfo2().uordblks);
 }
 
-/** Demands that openings do not change the heap in use, once the allocator has settled. */
+/** Fails if openings change the heap in use after the allocator has settled. Returns like measure(). */
 int measureHeap()
 {
     constexpr int warmUp = 3000;
@@ -161,7 +161,7 @@ int main(int argc, char* argv[])
     } else if (what == "heap") {
         status = measureHeap();
     } else {
-        return fail("tell what to do: compare, speed or heap");
+        return fail("an argument is expected: compare, speed or heap");
     }
     return status > 0 ? 1 : 0;
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-/** "{tip}", or an empty string without a tool tip. */
+/** Returns "{tip}", or an empty string without a tool tip. */
 QString tipText(const QString& tip)
 {
     return tip.isEmpty() ? QString() : '{' + tip + '}';

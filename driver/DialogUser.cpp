@@ -30,18 +30,18 @@ DialogUser::Outcome DialogUser::openBy(const Steps& trigger, const Steps& steps)
     QObject::connect(&poller, &QTimer::timeout, target, [&] {
         if (outcome != NotShown)
             return;
-        // The time counts from the dialog's own event loop on: reading may have taken long before.
+        // The deadline counts from the start of the dialog's own event loop, because the reads before it may take long.
         if (!shown.isValid())
             shown.start();
         if (QApplication::activeModalWidget() != target)
             return shown.elapsed() > deadlineMilliseconds ? close() : void();
         outcome = Closed;
-        // A dialog counts as active already when its parent is. Keys reach it only when its own window has the focus.
+        // A dialog counts as active even if only its parent is. Keys reach it only if its own window has the focus.
         const auto hasFocus = [this] {
             return QApplication::activeWindow() == target && QApplication::focusWindow() == target->windowHandle();
         };
         target->activateWindow();
-        QApplication::processEvents(); // without it, qWaitFor() sleeps once in each opening
+        QApplication::processEvents(); // without this call, qWaitFor() sleeps in each opening
         if (QTest::qWaitFor(hasFocus))
             steps();
         close();

@@ -30,7 +30,7 @@ QString DevelopmentHost::start(QMainWindow* window)
 {
     Q_INIT_RESOURCE(host); // ":/lock.png", from which the module's dialog takes its lock icon
     mainWindow = window;
-    // The plug-in first: a program that cannot start must not start a recording.
+    // The plug-in is loaded first, because a program that cannot start must not start a recording.
     QString problem = reloadModule();
     if (problem.isEmpty())
         problem = openRecordings();
@@ -55,7 +55,7 @@ QString DevelopmentHost::openRecordings()
     return problem;
 }
 
-/** Connects to a controller that answers as \a table says: sets the versions, and informs the links. */
+/** Connects to a controller that answers from \a table: sets the versions and informs the links. */
 void DevelopmentHost::connectTo(const ControllerTable& table)
 {
     backendVersions = versionsOf(table.identity);
@@ -88,7 +88,7 @@ QString DevelopmentHost::changeController(const ControllerTable& table)
         return {};
     }
     if (!whyBusy().isEmpty())
-        return "A new protocol or model is a new connection. " + whyBusy();
+        return "A new protocol or model needs a new connection. " + whyBusy();
     const VersionInfo direct(0, 13, -1);
     if ((table.identity.protocol < direct) != (backendVersions.protocol() < direct))
         return restart(table);
@@ -103,19 +103,22 @@ QString DevelopmentHost::whyBusy() const
     return QApplication::activeModalWidget() ? "Close the dialog first." : QString();
 }
 
-/** Unloads any earlier module and loads it again. Its menu entry is not placed yet. Returns like start(). */
+/**
+ * Unloads any earlier module and loads it again. Its menu entry is not placed yet. Returns an error message, or an
+ * empty string on success.
+ */
 QString DevelopmentHost::reloadModule()
 {
     loader.unload();
     return loader.load() ? QString() : loader.errorString();
 }
 
-/** Hands the host's values to the module and places its menu entry. */
+/** Gives the host's values to the module and places its menu entry. */
 void DevelopmentHost::placeModule()
 {
     loader.setParameters(&commandChannel, mainWindow, &backendVersions, false);
     loader.placeElements(mainWindow->menuBar());
-    entry().menu_entry->setShortcutContext(Qt::ApplicationShortcut); // in the workbench as well
+    entry().menu_entry->setShortcutContext(Qt::ApplicationShortcut); // active in the workbench, too
 }
 
 QString DevelopmentHost::description() const

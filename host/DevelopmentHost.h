@@ -28,19 +28,19 @@ public:
     // These functions return an error message, or an empty string on success. While the host is busy, only
     // changeController() may be called.
     /**
-     * Opens recordings, loads the module, and places its entry in the menus of \a window, which becomes the parent of
-     * the module's dialog. Before the window is destroyed, call endModule().
+     * Loads the module, opens recordings, and places the module's menu entry in \a window. The window becomes the
+     * parent of the module's dialog. Before the window is destroyed, call endModule().
      */
     QString start(QMainWindow* window);
-    /** Ends the module, connects to a controller that answers as \a table says and starts the module again. */
+    /** Ends the module, connects to a controller that answers from \a table, and starts the module again. */
     QString restart(const ControllerTable& table);
-    /** Restarts with the controller \a chosen, to which resetController() goes back from then on. */
+    /** Restarts with the controller \a chosen. From then on, resetController() returns to it. */
     QString chooseController(const NamedController& chosen);
     QString resetController() { return chooseController(setup.controller); }
     /**
-     * Lets the controller answer as \a table says from now on. Another protocol or model is a new connection, for which
-     * the dialog must be closed. If the protocol crosses 0.13, the module is loaded again, because a dialog that has
-     * met a legacy controller keeps labels hidden.
+     * Lets the controller answer from \a table from now on. A new protocol or model needs a new connection, for which
+     * the dialog must be closed. If the protocol crosses 0.13, the host loads the module again, because a dialog that
+     * was connected to a legacy controller keeps labels hidden.
      */
     QString changeController(const ControllerTable& table);
 
@@ -49,14 +49,14 @@ public:
     /** Returns why the module cannot be ended or reconfigured now, or an empty string. */
     QString whyBusy() const;
 
-    /** Describes controller, module and recordings, one line each. */
+    /** Returns a description of controller, module and recordings, one line each. */
     QString description() const;
-    /** Names process and controller, for titles. */
+    /** Returns process and controller, for window titles. */
     QString title() const;
 
-    /** Returns the module's menu entry. Only after start(). */
+    /** Returns the module's menu entry. Call it only after start(). */
     const GuiElement& entry() const { return *loader.module()->get_gui_elements().constFirst(); }
-    /** Returns the module's dialog. Only after start(). */
+    /** Returns the module's dialog. Call it only after start(). */
     QDialog* dialog() const { return qobject_cast<QDialog*>(entry().content); }
 
     Faults& faults() { return faultLayer; }
@@ -67,7 +67,7 @@ public:
     bool isReplaying() const { return !setup.replay.isEmpty(); }
 
 signals:
-    /** Something has happened that the log takes as a note. description() and title() may have changed. */
+    /** Announces an event that the log shows as a note. description() and title() may have changed. */
     void noted(const QString& text);
 
 private:
@@ -76,7 +76,7 @@ private:
     QString reloadModule();
     void placeModule();
 
-    HostSetup setup; // with the controller as it was chosen
+    HostSetup setup; // with the controller as the user chose it
     SimulatedController simulated;
     Replay recorded;
     Faults faultLayer;

@@ -60,7 +60,7 @@ bool HostOptions::parse(int argc, char** argv)
     return checkTexts() && checkReplay() && readController() && readProtocol() && readFaults() && readLanguage();
 }
 
-/** Lists name and description of each named controller, unless one of their files is broken. */
+/** Lists name and description of each named controller. If one of their files has a fault, prints it instead. */
 bool HostOptions::listControllers()
 {
     QVector<NamedController> controllers;
@@ -71,7 +71,7 @@ bool HostOptions::listControllers()
     return problem.isEmpty() ? printed(lines.join('\n')) : refuse(problem);
 }
 
-/** Requires a translation for a language that the user asks for, but not for the one of the desktop or for English. */
+/** Requires a translation for the language of --language, but neither for English nor for the desktop's language. */
 bool HostOptions::readLanguage()
 {
     const QString wanted = parser.value("language");
@@ -107,7 +107,7 @@ bool HostOptions::readFaults()
     return isTaken || refuse("--latency " + parser.value("latency") + ": milliseconds from 0 to 5000 are expected");
 }
 
-/** An empty value is a mistake, such as a variable of a script that is not set. */
+/** Refuses empty values, such as an unset variable of a script. */
 bool HostOptions::checkTexts()
 {
     for (const char* name : {"controller", "language", "plugin", "record", "replay"}) {
@@ -121,7 +121,7 @@ bool HostOptions::checkReplay()
 {
     for (const char* name : {"fail", "protocol"}) {
         if (parser.isSet("replay") && parser.isSet(name))
-            return refuse(QString("--%1: not with --replay, which takes it from the recording").arg(name));
+            return refuse(QString("--%1: not allowed with --replay, which takes it from the recording").arg(name));
     }
     return true;
 }

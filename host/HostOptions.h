@@ -4,7 +4,7 @@
 
 #include <QCommandLineParser>
 
-/** Parses the command line of the host's programs, to which a program may add options. --help describes them. */
+/** Parses the command line of the host's programs. A program may add options. --help describes all of them. */
 class HostOptions
 {
 public:
@@ -14,16 +14,15 @@ public:
     void addOption(const QCommandLineOption& option) { parser.addOption(option); }
 
     /**
-     * Reads the program's arguments, before there is a QApplication, which needs a display. Returns false if the
-     * program must end with status(): 0 after --help, --version or --list, 2 after a mistake. All four are printed.
+     * Reads the program's arguments. Call it before the QApplication, which needs a display. Returns false if the
+     * program must end with status(): 0 after printing --help, --version or --list, 2 after printing an error message.
      */
     bool parse(int argc, char** argv);
     int status() const { return itsStatus; }
 
     QString value(const QString& option) const { return parser.value(option); }
 
-    /** Returns what the arguments ask for. The default is the built-in controller and the plug-in next to the program.
-     */
+    /** Returns the chosen setup, by default the built-in controller and the plug-in next to the program. */
     const HostSetup& setup() const { return host; }
 
 private:

@@ -17,8 +17,8 @@ static constexpr char fileFilter[] = "Text files (*.txt);;All files (*)";
 
 MainWindow::MainWindow(DevelopmentHost* host) : host(host)
 {
-    QApplication::setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon)); // of the workbench, too
-    // A modal dialog blocks only windows of the same group: the workbench, which has no parent, stays usable.
+    QApplication::setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon)); // the workbench's icon, too
+    // A modal dialog blocks only windows of its group. The workbench has no parent, so it stays usable.
     setAttribute(Qt::WA_GroupLeader);
     createDescription();
     createHostMenu();
@@ -47,8 +47,7 @@ void MainWindow::createDescription()
     });
 }
 
-/** Adds an entry to \a menu that calls \a request, unless the host is busy. A request returns like refuse() takes it.
- */
+/** Adds a menu entry that calls \a request and shows its error message. A busy host shows the reason instead. */
 QAction* MainWindow::add(QMenu* menu, const QString& text, const Request& request)
 {
     return menu->addAction(text, this, [this, request] {
@@ -64,7 +63,7 @@ void MainWindow::createHostMenu()
     menu->addAction("&Quit", this, &QWidget::close, {"Ctrl+Q"});
     const QList<QAction*> entries = menu->actions();
     for (QAction* entry : entries)
-        entry->setShortcutContext(Qt::ApplicationShortcut); // in the workbench as well
+        entry->setShortcutContext(Qt::ApplicationShortcut); // active in the workbench, too
 }
 
 void MainWindow::createRecordingMenu()
@@ -101,7 +100,7 @@ void MainWindow::createControllerMenu()
         return askForFile(dialog, QFileDialog::AcceptSave, [this](const QString& file) {
             const Recorder& recorder = host->recorder();
             if (recorder.isRecording() && QFileInfo(file) == QFileInfo(recorder.fileName()))
-                return file + ": the running recording; stop it first, or name another file";
+                return file + ": this is the running recording. Stop it first, or choose another file.";
             return saveTable(file, host->controller().table());
         });
     });
@@ -117,7 +116,7 @@ void MainWindow::createControllerMenu()
         })->setToolTip(named.table.description);
 }
 
-/** Opens \a dialog and calls \a use with the file that the user names. There is nothing to refuse yet. */
+/** Opens \a dialog and calls \a use with the file that the user chooses. Returns an empty string, as a request. */
 QString MainWindow::askForFile(QFileDialog* dialog, QFileDialog::AcceptMode mode, const Use& use)
 {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -130,8 +129,10 @@ QString MainWindow::askForFile(QFileDialog* dialog, QFileDialog::AcceptMode mode
     return {};
 }
 
-/** Shows \a problem, unless it is empty. While the module's dialog is open it becomes a note, because a box would
- * disturb. */
+/**
+ * Shows \a problem in a message box, unless it is empty. While the host is busy, \a problem becomes a note in the log,
+ * because a box would disturb the module's dialog.
+ */
 void MainWindow::refuse(const QString& problem)
 {
     if (problem.isEmpty())

@@ -8,8 +8,8 @@
 class DevelopmentHost;
 
 /**
- * The host's window: the menus, and a short description of the host. While a module's dialog is open, it blocks this
- * window, but not the workbench. Does not own the host.
+ * The host's window: the menus, and a short description of the host. The module's open dialog blocks this window,
+ * but not the workbench. Does not own the host.
  */
 class MainWindow : public QMainWindow
 {
@@ -28,9 +28,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    /** Does what the user asks for. Returns an error message, or an empty string on success. */
+    /** Carries out a request of the user. Returns an error message, or an empty string on success. */
     using Request = std::function<QString()>;
-    /** The same with the file that the user has named. */
+    /** Uses the file that the user has chosen. Returns an error message, or an empty string on success. */
     using Use = std::function<QString(const QString& file)>;
 
     void createDescription();

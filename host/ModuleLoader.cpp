@@ -12,7 +12,7 @@
 
 namespace {
 
-/** Returns the menu \a title of \a menuBar, which is created if it does not exist. */
+/** Returns the menu \a title of \a menuBar. Creates the menu if it does not exist. */
 QMenu* menuOf(QMenuBar* menuBar, const QString& title)
 {
     const QList<QAction*> actions = menuBar->actions();

@@ -11,9 +11,9 @@ class QMenuBar;
 class QTranslator;
 
 /**
- * Loads one module plug-in, places its menu entries, and ends it. Call load(), then setParameters(), then
- * placeElements(); unload() or the destructor ends the module in the order that ModuleInterface asks for. What
- * setParameters() hands over stays the caller's and must outlive the module.
+ * Loads one module plug-in, places its menu entries, and ends the module. Call load(), then setParameters(), then
+ * placeElements(). unload() or the destructor ends the module in the order that ModuleInterface requires. The caller
+ * keeps ownership of the objects that setParameters() passes on. They must outlive the module.
  */
 class ModuleLoader
 {
@@ -22,31 +22,31 @@ public:
     ~ModuleLoader() { unload(); }
     Q_DISABLE_COPY(ModuleLoader)
 
-    /** Where the plug-in lies beside the running program, in the build tree as in an installation. */
+    /** Returns the path of the plug-in that belongs to the running program, in the build tree or an installation. */
     static QString defaultFile();
 
     /**
-     * Loads the module's texts in \a language from beside \a pluginFile, such as SynccardSettingsModule_de.qm. Returns
-     * false when there are none. Install the translator before the module is loaded.
+     * Loads the module's texts in \a language from the directory of \a pluginFile, such as
+     * SynccardSettingsModule_de.qm. Returns false if they are missing. Install the translator before the module is
+     * loaded.
      */
     static bool loadTranslation(QTranslator* translator, const QLocale& language, const QString& pluginFile);
 
     QString fileName() const { return file; }
 
-    /** Reads the metadata, and loads the plug-in if its identifiers are the expected ones. */
+    /** Reads the metadata, and loads the plug-in if its identifiers are the expected ones. Returns true on success. */
     bool load();
 
-    /** Why load() refused: file, expected and found, in one line. */
+    /** Returns the error message of load(): file, expected and found, in one line. */
     QString errorString() const { return error; }
 
-    /** The module object; null when none is loaded. It belongs to this loader. */
+    /** Returns the module object, which belongs to this loader, or null if no module is loaded. */
     ModuleInterface* module() const { return interface; }
 
-    /** Hands the host's four values over. */
+    /** Gives the host's four values to the module. */
     void setParameters(IOManager* commandManager, QWidget* moduleParent, BackendVersions* versions, bool observerMode);
 
-    /** Appends the module's menu entries to their menus in \a menuBar. The order numbers are for hosts of many modules.
-     */
+    /** Appends the module's menu entries to their menus in \a menuBar. Ignores their order numbers. */
     void placeElements(QMenuBar* menuBar);
 
     /** Ends the module, deletes it and unmaps the library. */

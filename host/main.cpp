@@ -18,7 +18,7 @@ int main(int argc, char* argv[])
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 #endif
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    int nameOnly = 1; // Qt has an option --plugin of its own.
+    int nameOnly = 1; // Qt must not see the arguments: it has an option --plugin of its own.
     const QApplication application(nameOnly, argv);
     DevelopmentHost host(options.setup());
     MainWindow window(&host);

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: foreign_host.sh SOURCES FOLDER OTHER_PLUGIN CMAKE_ARGUMENT...
-# Builds the plug-in and the minimal host against headers that differ from libs/include as a real host's do, and runs
-# them: the module must find the host's operations and members wherever they stand.
+# Builds the plug-in and the minimal host against headers that differ from libs/include like a real host's headers, and
+# runs them. The module must find the host's operations and members at any position.
 set -euo pipefail
 sources=$1 folder=$2 other=$3
 arguments=("${@:4}")
@@ -50,7 +50,7 @@ build "$sources" "$folder/plugin"
 build "$sources/examples/minimal-host" "$folder/host" -DCMAKE_CXX_FLAGS="-Wall -Wextra -Werror"
 status=0
 LC_ALL=de_DE.UTF-8 timeout 20 "$host" "$plugin" --once >"$folder/commands.txt" 2>"$folder/warnings.txt" || status=$?
-# From the command that fails on. Without an int or a raw command before it, the dialog would not come so far.
+# The commands from the failed one on. The dialog gets there only after successful int and raw commands.
 sed -n '/ failed$/,$p' "$folder/commands.txt" | diff -u "$sources/tests/data/minimal-host.txt" - >&2 || fail "other commands; status $status"
 [ "$status" = 0 ] || fail "expected status 0, found $status"
 ! grep -v 'propagateSizeHints' "$folder/warnings.txt" >&2 || fail "unexpected warnings"

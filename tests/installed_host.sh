@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # usage: installed_host.sh BUILD_TREE PREFIX VERSION IDENTIFIER OTHER_PLUGIN NO_MODULE
-# Installs into an empty prefix and starts the installed host elsewhere. The host must list the installed controllers, each
-# of which has a row in tests/data/commands.txt, refuse the mistakes in tests/data/options.txt, load the installed plug-in,
-# and find the installed translation.
+# Installs into an empty prefix and starts the installed host elsewhere. The host must:
+# - list the installed controllers, each of which has a row in tests/data/commands.txt
+# - refuse the mistakes in tests/data/options.txt
+# - load the installed plug-in and find the installed translation
 set -euo pipefail
 build=$(realpath "$1")
 data=$(realpath "$(dirname "$0")/data")
@@ -18,7 +19,7 @@ fail() {
     exit 1
 }
 
-# Expects the host to print the one LINE and to end with STATUS, with the options ARGUMENTS.
+# Runs the host with the options ARGUMENTS. The host must print only LINE and end with STATUS.
 expect() {
     local status=$1 line=$2 found=0 said
     shift 2
@@ -39,7 +40,7 @@ while read -r row; do
     expect 2 "synccard-host: ${row#* -> }" "${arguments[@]}"
 done <"$data/options.txt"
 
-# Without a display.
+# The host lists its controllers without a display.
 list=$("$host" -platform none --list)
 [ "$(cut -d ' ' -f 1 <<<"$list")" = "$known" ] || fail "expected the controllers $known, found $list"
 grep -qxF 'locked           The configuration is locked' <<<"$list" || fail "expected locked in a row, found $list"

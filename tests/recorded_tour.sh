@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: recorded_tour.sh TOUR_PROGRAM FOLDER
-# ./dev records a tour where it is called. The recording replays to its end; with a line edited, one missing, one too
-# many, or damaged, the tour says where it stops. On each named controller the tour ends with status 0.
+# ./dev records a tour where ./dev is called. The recording must replay to its end. If a line is edited, missing, added
+# or damaged, the tour must print where it stops. On each named controller the tour must end with status 0.
 set -euo pipefail
 tour=$1 folder=$2
 rm -rf "$folder"
@@ -40,7 +40,7 @@ expect "$folder/more.txt" 1 "the recording goes on after the tour's end"
 sed '9s/.*/hello/' "$whole" >"$folder/damaged.txt"
 expect "$folder/damaged.txt" 2 "damaged.txt:9: "
 expect "a full disk" 2 "/dev/full: No space left on device" --record /dev/full
-# A file that must not grow beyond a kilobyte ends with its last whole line, and replays.
+# A recording that is limited to a kilobyte ends with its last whole line, and replays.
 (trap '' XFSZ && ulimit -f 1 && expect "a full disk later" 1 "cut.txt: File too large" --record "$folder/cut.txt")
 expect "$folder/cut.txt" 1 "cut.txt: expected the end of the recording, found"
 
@@ -52,7 +52,7 @@ for name in $names; do
     [ "$(wc -l <"$recording")" -gt 2 ] || { echo "recorded_tour: $name: no command was asked" >&2; exit 1; }
 done
 expect "$folder/nonsense.txt" 0 "" --controller nonsense --replay "$folder/nonsense.txt"
-# The recording of one opening is a controller that answers another opening in the same way.
+# The recording of an opening, used as a controller, answers another opening in the same way.
 for name in nonsense quillstone; do
     expect "$name" 0 "" --controller "$folder/$name.txt" --record "$folder/$name-again.txt"
     diff -u <(cut -d ' ' -f 2- "$folder/$name.txt") <(cut -d ' ' -f 2- "$folder/$name-again.txt") >&2

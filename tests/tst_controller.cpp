@@ -20,7 +20,7 @@
 #include <sys/resource.h>
 #include <utility>
 
-/** The simulated controller and its files, and what lies between it and a module: channel, faults, recordings. */
+/** The simulated controller and its files, and the layers up to a module: channel, faults, recordings. */
 class TestController : public QObject
 {
     Q_OBJECT
@@ -36,14 +36,14 @@ private slots:
 
 namespace {
 
-/** A command channel with all layers below it, as in the host, and what is heard of them. */
+/** A command channel with all layers below it, as in the host, and the results of their steps. */
 class Layers : public QObject
 {
 public:
     /** Replays the recording in \a file. Without a file it answers as the controller "full". */
     explicit Layers(const QString& file);
 
-    /** Takes a step of data/commands.txt. */
+    /** Carries out a step of data/commands.txt. */
     void take(const QString& step);
 
     QStringList heard;
@@ -139,7 +139,7 @@ void Layers::change(const QString& line)
     controller.setTable(table);
 }
 
-/** Hears the lines of a recording, without the times. When commands are delayed, a time of zero stays. */
+/** Hears the lines of a recording without their times. If commands are delayed, a time of zero stays. */
 void Layers::readLines(const QString& file)
 {
     const QString time = faults.latency() > 0 ? R"(0\.(?!000)\d{3})" : R"(\d\.\d{3})";
@@ -147,7 +147,7 @@ void Layers::readLines(const QString& file)
     hear(QString(readFile(file)).trimmed().replace(times, " | "));
 }
 
-/** Hears the answer of a command, and what is wrong with its log or with the value that a failure leaves. */
+/** Hears the answer of a command, a wrong log, and a wrong value after a failure. */
 void Layers::carryOut(const QString& operation, const QByteArray& command)
 {
     char text[300] = {};
@@ -183,7 +183,7 @@ void Layers::carryOut(const QString& operation, const QByteArray& command)
 
 } // namespace
 
-/** The second run of each program must really have a decimal comma. */
+/** Only the second run of each program has a decimal comma. */
 void TestController::initTestCase()
 {
     QCOMPARE(*localeconv()->decimal_point, qEnvironmentVariableIsSet("LOCPATH") ? ',' : '.');
@@ -216,7 +216,7 @@ void TestController::refusesFiles()
     QCOMPARE(controller.name, "before");
 }
 
-/** What is saved reads back to the same table. A file that cannot be written whole stays as it was. */
+/** A saved table reads back unchanged. A file that cannot be written whole keeps its content. */
 void TestController::savesControllers()
 {
     const QTemporaryDir folder;

@@ -8,7 +8,7 @@
 #include <sanitizer/common_interface_defs.h>
 #endif
 
-/** Openings before a controller that answers garbage, with a user in a hurry. Each opening has a seed of its own. */
+/** Openings connected to a controller that answers garbage, with a hasty user. Each opening has a seed of its own. */
 class TestGarbage : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ void printSeed()
         fprintf(stderr, "to run this opening and those before it: ./dev fuzz %d %d\n", before + 1, seed - before));
 }
 
-/** Answers with whatever fits the module's buffers. */
+/** Random answers that fit the module's buffers. */
 class Garbage
 {
 public:
@@ -43,7 +43,7 @@ public:
         return random.bounded(200) > 0;
     }
 
-    /** What a channel may do while it waits for an answer, and a host while it reports. */
+    /** Runs an event loop at times, like a channel that waits for an answer and a host that reports. */
     void runEventLoop()
     {
         QVERIFY(!isAsked);
@@ -82,7 +82,7 @@ private:
     }
 };
 
-/** Checks that what reached the controller is printable and finite. Returns the number of writes. */
+/** Checks that written values and reports are printable, and numbers finite. Returns the number of writes. */
 int checkWritten(ScriptedController* link)
 {
     static const QRegularExpression wrong(
@@ -97,7 +97,7 @@ int checkWritten(ScriptedController* link)
     return found.filter(QRegularExpression("^set ")).size();
 }
 
-/** Hasty things that a user or a host may do next. */
+/** Carries out hasty actions of a user or a host. */
 void actAtRandom(LoadedModule& module, Garbage* garbage)
 {
     const QVector<QByteArray> often = {"key comboBox_modes Down",

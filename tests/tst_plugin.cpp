@@ -13,7 +13,7 @@
 #include <QTableWidget>
 #include <QTranslator>
 
-/** The plug-in as a host meets it: contract, identity, menu entry, texts; and the dialog's form and its life. */
+/** The plug-in as a host sees it: contract, identity, menu entry, texts, and the dialog's form and lifetime. */
 class TestPlugin : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ private slots:
 
 namespace {
 
-/** Every text that a user meets who raises the frequency, in vain, and opens the dialog again without a card. */
+/** Returns every text of two openings: the user fails to raise the frequency, then there is no synccard. */
 QStringList textsOfSession()
 {
     LoadedModule module({"synccard has_source d01 ttlinv=yes", "synccard has_output d01 internal ttlinv=yes",
@@ -60,7 +60,7 @@ QStringList textsOfSession()
     return texts << module.find<QLabel>("label_error")->text();
 }
 
-/** Heights and widths in pixels, and what the headers do. */
+/** Returns heights and widths in pixels, and properties of headers and selection. */
 QList<int> layoutOf(const QTableWidget* table)
 {
     const QHeaderView* header = table->horizontalHeader();
@@ -108,7 +108,7 @@ void TestPlugin::offersOneEntry()
     QVERIFY(!action);
 }
 
-/** Other names are ignored, and values that cannot be converted are null; without channel there is no synccard. */
+/** The module ignores other names. Values that cannot be converted are null. Without a channel there is no synccard. */
 void TestPlugin::takesParameters()
 {
     LoadedModule module;
@@ -128,7 +128,7 @@ void TestPlugin::takesParameters()
     QCOMPARE(module.link.commands, {});
 }
 
-/** Unloading takes away every widget and resource. */
+/** Unloading removes every widget and resource. */
 void TestPlugin::leavesNothing()
 {
     QTableWidget other(1, 1);
@@ -150,7 +150,7 @@ void TestPlugin::leavesNothing()
     QVERIFY(!QFile::exists(":/images/lock.png"));
 }
 
-/** In German every text is another one, except those that are listed here. */
+/** In German every text is different, except those that are listed here. */
 void TestPlugin::speaksGerman()
 {
     const QStringList english = textsOfSession();
@@ -170,8 +170,8 @@ void TestPlugin::speaksGerman()
 }
 
 /**
- * The dialog polls as often as another timer of a second, however slow the machine is. Nothing is written when the host
- * shows the dialog during the reads. Nothing follows when the host hides it.
+ * The dialog polls as often as another timer of one second, however slow the machine is. If the host shows the dialog
+ * during the reads, nothing is written. After the host has hidden the dialog, no command follows.
  */
 void TestPlugin::pollsEachSecondWhileOpen()
 {
@@ -203,7 +203,7 @@ void TestPlugin::pollsEachSecondWhileOpen()
     QVERIFY(!module.link.commands.join('\n').contains("\nset "));
 }
 
-/** Texts, sizes and alignments, and names for a screen reader. */
+/** The form has its texts, sizes and alignments, and names for a screen reader. */
 void TestPlugin::hasForm()
 {
     LoadedModule module;

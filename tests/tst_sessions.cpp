@@ -14,12 +14,12 @@ struct Run
     int opened = INT_MAX;
     int left = INT_MAX;
     QByteArray way;
-    QString undone; // why actions could not be done
+    QString undone; // the error messages of actions
     QByteArrayList shown;
     QByteArrayList commands;
 };
 
-/** Whole sessions with the dialog, as the files of data tell them. */
+/** Whole sessions with the dialog, from files of tests/data. */
 class TestSessions : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ void TestSessions::runs()
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
 }
 
-/** data/mistakes.txt holds cases with a mistake. Each is named by the end of the message that it must give. */
+/** Each case of data/mistakes.txt has a mistake. The name of a case is the end of its expected error message. */
 void TestSessions::findsMistakes()
 {
     QFETCH(Session, session);
@@ -60,7 +60,7 @@ Run open(LoadedModule& module, const QByteArrayList& actions, const QByteArray& 
 {
     Run run;
     module.boxes.clear();
-    // They keep what an earlier opening saw.
+    // These labels keep the values of an earlier opening.
     module.find<QLabel>("label_inputSource")->clear();
     module.find<QLabel>("label_inputFrequency")->clear();
     run.result = module.open([&] {
@@ -77,7 +77,7 @@ Run open(LoadedModule& module, const QByteArrayList& actions, const QByteArray& 
     return run;
 }
 
-/** The first row of \a list that knows \a command: its effect, its report, and the row itself. */
+/** Returns the first row of \a list that matches \a command: its effect, its report, and the row itself. */
 QByteArrayList consequence(const QByteArrayList& list, const QString& command)
 {
     for (const QByteArray& line : list) {
@@ -93,7 +93,7 @@ QByteArrayList consequence(const QByteArrayList& list, const QString& command)
 
 } // namespace
 
-/** Compares reports, box, result and end of \a run with what failures.txt says of the commands that failed. */
+/** Returns the first difference of \a run from the rows of failures.txt for its failed commands, or an empty string. */
 QString TestSessions::problemOf(const LoadedModule& module, const Run& run, const Run& clean)
 {
     QByteArrayList effects;

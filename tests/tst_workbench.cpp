@@ -30,7 +30,7 @@ private slots:
 
 namespace {
 
-/** The host connected to "full", with its windows, and what a user does with them. */
+/** The host connected to "full", with its windows, and the actions of a user. */
 struct Windows
 {
     explicit Windows(HostSetup setup = HostSetup())
@@ -42,7 +42,7 @@ struct Windows
         window.show();
     }
 
-    /** Opens the dialog by its menu entry, runs \a steps and leaves by Escape. */
+    /** Opens the dialog by its menu entry, runs \a steps and closes the dialog by Escape. */
     DialogUser::Outcome open(const DialogUser::Steps& steps = [] {})
     {
         window.activateWindow();
@@ -68,7 +68,7 @@ struct Windows
         return lines;
     }
 
-    /** Types \a text into \a widget, in place of what it contains. */
+    /** Types \a text in place of the text in \a widget. */
     void type(QWidget* widget, const QString& text)
     {
         workbench.activateWindow();
@@ -88,7 +88,7 @@ struct Windows
 
 } // namespace
 
-/** A report stands below its command. A failed command stands out, and is shown even if it is a poll. */
+/** A report follows its command. A failed command is bold, and is shown even if it is a poll. */
 void TestWorkbench::logsInOrder()
 {
     HostSetup failing;
@@ -162,7 +162,7 @@ void TestWorkbench::followsTheEnd()
     QTRY_VERIFY(isAtEnd());
 }
 
-/** A fault is active as soon as it is typed. Polls neither count, nor change what the user types. */
+/** A fault is active as soon as it is typed. Polls do not count, and do not change a number that the user types. */
 void TestWorkbench::makesFaults()
 {
     Windows windows;
@@ -196,7 +196,7 @@ void TestWorkbench::makesFaults()
     QCOMPARE(windows.lines().filter("failed"), QStringList("get|synccard available||failed"));
 }
 
-/** Answers change by keys, even while the dialog is open. Lines are pasted together. What is wrong changes nothing. */
+/** Keys change answers, even while the dialog is open. Several lines can be pasted. A wrong line changes nothing. */
 void TestWorkbench::editsTheController()
 {
     Windows windows;
@@ -254,7 +254,7 @@ void TestWorkbench::editsTheController()
     QCOMPARE(windows.open(), DialogUser::Closed);
 }
 
-/** The first difference from the recording is noted whole. There is no controller to edit. */
+/** The log notes the first difference from the recording. The workbench has only the log. */
 void TestWorkbench::replays()
 {
     HostSetup setup;

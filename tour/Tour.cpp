@@ -14,9 +14,9 @@
 static constexpr int boxPollMilliseconds = 5;
 static constexpr int pollDeadlineMilliseconds = 20000; // a poll's two commands may be slow
 static constexpr int pictureMargin = 16;               // pixels
-static constexpr int workbenchWidth = 1080;            // pixels; its picture cuts off no command
+static constexpr int workbenchWidth = 1080;            // pixels, enough to show each command whole
 
-/** \a dialog below a title bar as the style draws it: the window manager's own cannot be grabbed. */
+/** Returns a picture of \a dialog. The style draws the title bar: the window manager's own cannot be grabbed. */
 static QPixmap pictureOf(QDialog* dialog)
 {
     const QPixmap content = dialog->grab();
@@ -40,7 +40,7 @@ static QPixmap pictureOf(QDialog* dialog)
 static void printCommand(const CommandRecord& record)
 {
     const QString outcome = record.result == 0 ? QString::fromLatin1(record.answer) : QString("failed");
-    // In one call: an answer may contain "%4".
+    // This is a single call of arg(), because an answer may contain "%4".
     print(QString("%1 %2 -> %3 (%4)")
               .arg(QString::fromLatin1(textOf(record.operation)).leftJustified(6), QString::fromLatin1(record.command),
                    outcome, QString::number(record.result)));
@@ -71,7 +71,7 @@ int Tour::run()
         problem = host.start(&window);
     if (!problem.isEmpty())
         return fail(problem);
-    initial.identity = host.controller().table().identity; // A recording has its own.
+    initial.identity = host.controller().table().identity; // A recording has an identity of its own.
     expected = initial;
     isFull = written(initial) == written(full.table);
     window.show();
@@ -102,8 +102,8 @@ void Tour::restart(const QString& lines)
 }
 
 /**
- * Opens the dialog by its shortcut and runs \a steps, which must close it. On "full" the dialog must be shown, and must
- * change the controller's table by \a change, lines of a controller file, and by nothing else.
+ * Opens the dialog by its shortcut and runs \a steps, which must close the dialog. On "full" the dialog must be shown,
+ * and must change the controller's table exactly by \a change, which is lines of a controller file.
  */
 void Tour::visit(const QString& title, const QString& change, const DialogUser::Steps& steps)
 {
@@ -138,14 +138,14 @@ void Tour::compareTable(const QString& title)
                title + ": expected " + wanted.value(i) + ", found " + found.value(i));
 }
 
-/** The first poll comes a second after the dialog was opened. */
+/** Waits for a poll. The first one comes a second after the dialog was opened. */
 void Tour::waitForPoll()
 {
     hasPolled = false;
     demand(QTest::qWaitFor([this] { return hasPolled; }, pollDeadlineMilliseconds), "the sync input is not polled");
 }
 
-/** Closes a warning box. On "full" nothing should fail, so a box is a problem there. */
+/** Closes a warning box. On "full" a box is a problem, because nothing should fail there. */
 void Tour::closeBox()
 {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -164,12 +164,12 @@ void Tour::look(const QString& name)
         if (!line.endsWith(" hidden"))
             print("  " + line);
     }
-    // A dialog of fixed size takes its new size one turn of the event loop after widgets were shown or hidden.
+    // A dialog of fixed size resizes one turn of the event loop after widgets were shown or hidden.
     QTest::qWait(1);
     savePicture(name, pictureOf(user->dialog()));
 }
 
-/** Takes a picture of the dialog with the workbench beside it. */
+/** Takes a picture of the dialog with the workbench next to it. */
 void Tour::lookAtWorkbench()
 {
     const QPixmap left = pictureOf(user->dialog());

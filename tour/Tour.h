@@ -11,10 +11,10 @@
 #include <memory>
 
 /**
- * Uses the dialog like a person, and prints every command with its answer and what the dialog shows. On the controller
- * "full" it changes settings and cancels changes, then goes on with a legacy controller, a locked one and one without
- * synccard. It compares the controller's table with the expected one after each visit. On any other controller it opens
- * the dialog once and cancels. Needs a QApplication.
+ * Uses the dialog like a person. Prints every command with its answer, and the dialog's content. On the controller
+ * "full" it changes settings and cancels changes. Then it continues with a legacy controller, a locked one and one
+ * without a synccard. After each visit it compares the controller's table with the expected one. On any other
+ * controller it opens the dialog once and cancels. Needs a QApplication.
  */
 class Tour
 {
@@ -23,7 +23,7 @@ public:
     Tour(const HostSetup& setup, const QString& pictureFolder);
 
     /**
-     * Starts the host and makes the visits. Prints the first problem to standard error and makes no visit after it.
+     * Starts the host and makes the visits. Prints the first problem to standard error and makes no further visit.
      * Returns the exit status: 0, 1 after a problem, 2 if the host cannot start.
      */
     int run();
@@ -44,7 +44,7 @@ private:
     void look(const QString& name);
     void lookAtWorkbench();
     void savePicture(const QString& name, const QPixmap& picture);
-    /** Keeps \a what as the problem unless \a condition holds or there is one. Returns false once there is one. */
+    /** Keeps \a what as the first problem if \a condition is false. Returns false after any problem. */
     bool demand(bool condition, const QString& what);
     bool hasFailed() const { return !firstProblem.isEmpty(); }
 
@@ -56,7 +56,7 @@ private:
     QString firstProblem;
     DevelopmentHost host;
     MainWindow window;
-    Workbench workbench; // for its picture; it is not shown
+    Workbench workbench; // only for its picture, never shown
     std::unique_ptr<DialogUser> user;
     QTimer boxPoller;
 };

@@ -63,7 +63,7 @@ void Tour::meetOtherControllers()
     });
 }
 
-/** On a controller that answers anything, reads may fail, reports may come, and the dialog may not even be shown. */
+/** Opens the dialog and cancels. On a controller other than "full", reads may fail, and the dialog might not open. */
 void Tour::openAndCancel()
 {
     visit("Open the dialog and cancel", {}, [this] {

@@ -27,10 +27,10 @@ int main(int argc, char* argv[])
         return options.status();
     const QString pictures = options.value("pictures");
     if (!pictures.isEmpty() && !QDir().mkpath(pictures))
-        return fail("--pictures " + pictures + ": the folder cannot be made");
+        return fail("--pictures " + pictures + ": the folder cannot be created");
 
     takeWarnings(noteWarning);
-    int nameOnly = 1; // Qt has an option --plugin of its own.
+    int nameOnly = 1; // Qt must not see the arguments: it has an option --plugin of its own.
     const QApplication application(nameOnly, argv);
     const int status = Tour(options.setup(), pictures).run();
     return status == 0 && hasWarned ? 1 : status;

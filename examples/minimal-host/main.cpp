@@ -9,7 +9,7 @@
 #include <cstdarg>
 #include <cstdio>
 
-// A row answers every command that begins like it. No row answers max_output_delay, to show a failure.
+// A row answers every command that starts with its name. max_output_delay has no row, to show a failure.
 const char* const table =
     "config is_changeable=yes|synccard available=yes|synccard number_of_modes=1|synccard mode t01=cam100|"
     "zorvan2 get synccard mode_desc=zorvan2 get synccard mode_desc cam100 \"Cameras at 100 Hz\"|"
@@ -20,7 +20,7 @@ const char* const table =
     "synccard max_internal_frequency=500|synccard internal_frequency=120.5|synccard max_external_divisor=8|"
     "synccard external_divisor=2|synccard output_delay=0.25|synccard output_during_idle=yes";
 
-// The body of a formatting operation, which alone can read its "...". "store" takes the answer and may set ok.
+// The body of a formatting operation. Only the operation can read its "...". "store" keeps the answer and may set ok.
 #define ANSWER(operation, store)                                                                                       \
     va_list arguments;                                                                                                 \
     va_start(arguments, format);                                                                                       \
@@ -32,7 +32,7 @@ const char* const table =
 
 class TableChannel : public IOManager
 {
-    // Prints the command with its answer. A null answer means failure, as when it is too long for the module's buffer.
+    // Prints the command and returns its answer. A null answer is a failure: it does not fit the buffer, for instance.
     static QByteArray answerTo(const QByteArray& operation, const char* format, va_list arguments)
     {
         char command[400];
@@ -62,7 +62,7 @@ public:
 int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
-    static_cast<void>(setlocale(LC_NUMERIC, "C")); // QApplication has set the user's, which may have a decimal comma.
+    static_cast<void>(setlocale(LC_NUMERIC, "C")); // The user's locale, set by QApplication, may have a decimal comma.
     const QString file = QFileInfo(QApplication::arguments().value(1)).absoluteFilePath();
     QPluginLoader loader(file);
     loader.setLoadHints(QLibrary::LoadHints()); // By default unload() leaves the plug-in in memory.
@@ -80,7 +80,7 @@ int main(int argc, char* argv[])
     module->set_param("ModuleParent", QVariant::fromValue<QWidget*>(&window));
     module->set_param("BackendVersions", QVariant::fromValue(&versions));
     module->set_param("ObserverMode", false);
-    const GuiElement* element = module->get_gui_elements().constFirst(); // the module's one entry
+    const GuiElement* element = module->get_gui_elements().constFirst(); // the module's single menu entry
     window.menuBar()->addMenu(element->menu_name)->addAction(element->menu_entry);
     window.show();
     if (QApplication::arguments().contains("--once")) { // for tests: changes the frequency, presses OK
@@ -90,7 +90,7 @@ int main(int argc, char* argv[])
         });
         element->menu_entry->trigger();
     } else {
-        QApplication::exec(); // The entry opens the dialog by itself.
+        QApplication::exec(); // The menu entry opens the dialog.
     }
     module->about_to_exit_module();
     module->exit_module(); // Window, channel and versions must exist until here.

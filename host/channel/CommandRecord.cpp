@@ -18,7 +18,7 @@ bool isOperation(const QByteArray& text)
     return texts().contains(text);
 }
 
-/** The commands that are not like all others, and at the end all others. */
+/** The commands with traits of their own. The last row stands for all other commands. */
 static constexpr CommandTraits table[] = {
     {"get synccard available", 200, false, true},
     {"get synccard has_input_frequency", 16, true, false},

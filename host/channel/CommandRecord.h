@@ -12,39 +12,39 @@ enum class Operation {
     Set,    // sets a parameter
 };
 
-/** How recordings, the log and tests write \a operation: "send", "get", "int", "double", "bool" or "set". */
+/** Returns the name of \a operation in recordings, log and tests: "send", "get", "int", "double", "bool" or "set". */
 QByteArray textOf(Operation operation);
 
-/** Whether \a text is such a text. */
+/** Returns true if \a text is an operation name. */
 bool isOperation(const QByteArray& text);
 
-/** A command behind its operation, as recordings and tests write it: "get synccard source d01". */
+/** Returns a command after its operation, as recordings and tests write it: "get synccard source d01". */
 inline QByteArray textOf(Operation operation, const QByteArray& command)
 {
     return textOf(operation) + ' ' + command;
 }
 
-/** One command as it went over a channel. */
+/** One command that a channel has carried. */
 struct CommandRecord
 {
-    /** The command behind its operation. */
+    /** Returns the command after its operation. */
     QByteArray text() const { return textOf(operation, command); }
 
     Operation operation;
     QByteArray command; // as the module formatted it
-    QByteArray answer;  // the value or reply line; empty for a set or a failure
+    QByteArray answer;  // the value or reply line, empty for a set or a failure
     int result;         // 0 on success
     qint64 microseconds = 0;
 };
 
-/** How modules use a command. */
+/** Properties of a command and of its use by modules. */
 struct CommandTraits
 {
     const char* command;
-    int bufferSize;     // of the buffer for a text answer, its terminator included
-    bool isPolled;      // asked each second while the dialog is open
-    bool beginsOpening; // asked once near the start of each opening
+    int bufferSize;     // of the buffer for a string answer, including its terminator
+    bool isPolled;      // sent each second while the dialog is open
+    bool beginsOpening; // sent once, near the start of each opening
 };
 
-/** The traits of a command behind its operation, such as "get synccard available". */
+/** Returns the traits of a command after its operation, such as "get synccard available". */
 const CommandTraits& traitsOf(const QByteArray& command);

@@ -11,7 +11,7 @@
 namespace {
 
 #ifdef Q_OS_UNIX
-/** While one lives, the C library formats numbers with a decimal point. QApplication sets the user's locale. */
+/** Lets the C library format numbers with a decimal point in a scope. QApplication has set the user's locale. */
 class DecimalPoint
 {
 public:
@@ -28,7 +28,7 @@ private:
     locale_t previous;
 };
 #else
-/** Elsewhere Qt leaves the C library in its "C" locale, which has a decimal point. */
+/** Does nothing: outside Unix, Qt leaves the C library in its "C" locale, which has a decimal point. */
 class DecimalPoint
 {};
 #endif
@@ -47,7 +47,7 @@ Q_ATTRIBUTE_FORMAT_PRINTF(1, 0) QByteArray formatted(const char* format, va_list
 
 } // namespace
 
-// Formats the arguments of the surrounding function. A macro, since only that function can reach its "...".
+// Formats the arguments of the surrounding function. This is a macro, because only that function can reach its "...".
 #define FORMAT_COMMAND                                                                                                 \
     va_list arguments;                                                                                                 \
     va_start(arguments, format);                                                                                       \
@@ -114,7 +114,7 @@ int ControllerChannel::answerValue(Operation operation, const QByteArray& comman
     });
 }
 
-/** Executes the command and lets \a take store the value. On a failure \a take gets null and returns false. */
+/** Executes the command and lets \a take store the value. After a failure, \a take gets null and returns false. */
 template <typename Take>
 int ControllerChannel::carryOut(Operation operation, const QByteArray& command, Take take)
 {

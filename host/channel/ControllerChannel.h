@@ -9,9 +9,9 @@ class ControllerLink;
 
 /**
  * The command channel between a module and a controller's link, which it does not own. It formats commands and parses
- * numbers with a decimal point whatever the user's locale, and fails an answer that does not fit the module's buffer.
+ * numbers with a decimal point in any locale, and fails an answer that does not fit the module's buffer.
  * A failure fills the result with plausible values: a module that ignores the failure shows wrong values in tests.
- * GUI thread only.
+ * Lives on the GUI thread.
  */
 class ControllerChannel : public QObject, public IOManager
 {
@@ -28,13 +28,13 @@ public:
     int setParameter(const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
     void reportError(const char* category, const char* systemTag, int flag, const char* message) override;
 
-    /** Whether a command is under way: the link may run an event loop meanwhile. */
+    /** Returns true while a command is under way. The link may run an event loop meanwhile. */
     bool isBusy() const { return commandsUnderWay > 0; }
 
 signals:
-    /** A command has been answered. */
+    /** Announces a command that has been answered or has failed. */
     void executed(const CommandRecord& record);
-    /** The module reported an error; \a message is a finished text. */
+    /** Announces an error report of the module. \a message is a finished string. */
     void reported(const QString& category, const QString& systemTag, int flag, const QString& message);
 
 private:

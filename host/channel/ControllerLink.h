@@ -3,7 +3,7 @@
 #include "CommandRecord.h"
 #include "VersionInfo.h"
 
-/** What a channel and a recording know of a controller. */
+/** The properties of a controller that a channel and a recording know. */
 struct ControllerIdentity
 {
     VersionInfo protocol = VersionInfo(0, 0, 0);
@@ -15,7 +15,7 @@ struct ControllerIdentity
     }
 };
 
-/** Below a command channel: takes one command and gives one answer. A layer passes both on to the link below it. */
+/** A link below a command channel: accepts a command and gives an answer. A layer passes both on to the link below. */
 class ControllerLink
 {
 public:
@@ -23,11 +23,11 @@ public:
     virtual ~ControllerLink() = default;
     Q_DISABLE_COPY(ControllerLink)
 
-    /** The commands from now on are for \a controller. */
+    /** Announces that the commands from now on are for \a controller. */
     virtual void connected(const ControllerIdentity& /*controller*/) {}
 
     /**
-     * Carries out \a command and writes a read's value, or a raw command's reply line, into \a answer; false on
+     * Carries out \a command. Writes a read's value or a raw command's reply line into \a answer. Returns false on
      * failure.
      */
     virtual bool execute(Operation operation, const QByteArray& command, QByteArray* answer) = 0;

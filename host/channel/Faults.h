@@ -4,7 +4,7 @@
 
 #include <QRegularExpression>
 
-/** Makes chosen commands fail without reaching the link below, or take longer, to see how a module copes. */
+/** Makes chosen commands fail before they reach the link below, or take longer, to test a module. */
 class Faults : public ControllerLink
 {
 public:
@@ -12,16 +12,16 @@ public:
 
     explicit Faults(ControllerLink* below) : below(below) {}
 
-    /** Fails the \a n-th command from now, 1 being the next; 0 fails none. Polls do not count. */
+    /** Fails the \a n-th command from now. 1 is the next command, 0 fails no command. Polls do not count. */
     void failNth(int n) { untilFailure = n; }
     int commandsToFailure() const { return untilFailure; }
-    /** Fails every command in which \a expression is found; an empty one fails none. */
+    /** Fails every command in which \a expression is found. An empty expression fails no command. */
     void failMatching(const QRegularExpression& expression) { pattern = expression; }
     QRegularExpression failing() const { return pattern; }
     /** Lets each command take \a milliseconds longer, 0 to maximumLatency. */
     void setLatency(int milliseconds) { delay = qBound(0, milliseconds, maximumLatency); }
     int latency() const { return delay; }
-    /** Waits in an event loop, as many real channels do, so that input and timers arrive, or sleeps. */
+    /** Lets commands wait in an event loop, as many real channels do, so that input and timers arrive. */
     void waitInEventLoop(bool isOn) { hasEventLoop = isOn; }
 
     void connected(const ControllerIdentity& controller) override { below->connected(controller); }

@@ -3,8 +3,8 @@
 #include <QFileDevice>
 
 /**
- * Writes \a bytes into \a file, which must be open without a buffer. Returns how many bytes were written. If they are
- * not all, the error string of \a file is the system's reason, which it only gives when it is asked for the rest.
+ * Writes \a bytes into \a file, which must be open without a buffer. Returns the number of bytes written. If bytes
+ * are missing, the error string of \a file is the system's reason: the system gives it only for a write of the rest.
  */
 inline qint64 writeWhole(QFileDevice* file, const QByteArray& bytes)
 {

@@ -8,9 +8,9 @@ QString Recorder::start(const QString& name)
 {
     const QFileInfo existing(name);
     if (existing.isFile())
-        return name + ": this file exists; name another one, or remove it first";
+        return name + ": this file exists. Name another one, or remove it first.";
     auto next = std::make_unique<QFile>(name);
-    // Without a buffer: after a failed write nothing must be left that would be written when the file is closed.
+    // There is no buffer: after a failed write, closing the file must not write the rest.
     QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     if (!existing.exists())
         mode |= QIODevice::NewOnly;
@@ -54,7 +54,7 @@ bool Recorder::execute(Operation operation, const QByteArray& command, QByteArra
     return isAnswered;
 }
 
-/** Writes the present connection unless it stands in the recording already. */
+/** Writes the current connection, unless the recording already has it. */
 void Recorder::recordConnection()
 {
     if (isConnectionDue && !connection.isEmpty())
@@ -62,8 +62,10 @@ void Recorder::recordConnection()
     isConnectionDue = false;
 }
 
-/** Writes a whole line. If it cannot, it ends the recording and cuts it back to its last whole line, so that it
- * replays. */
+/**
+ * Writes a whole line. On failure, ends the recording and cuts it back to its last whole line, so that the recording
+ * replays.
+ */
 void Recorder::write(const RecordedLine& line)
 {
     if (!isRecording())
@@ -74,7 +76,7 @@ void Recorder::write(const RecordedLine& line)
         wholeSize += written;
         return;
     }
-    const QString problem = fileName() + ": " + file->errorString() + "; the recording ends here";
+    const QString problem = fileName() + ": " + file->errorString() + ". The recording ends here.";
     if (QFileInfo(fileName()).isFile()) // and not a device
         file->resize(wholeSize);
     file.reset();

@@ -8,7 +8,7 @@
 
 #include <memory>
 
-/** Writes each command with its answer into a recording, one per line. docs/workbench.md describes the format. */
+/** Writes commands and answers into a recording, one command per line. docs/workbench.md describes the format. */
 class Recorder : public QObject, public ControllerLink
 {
     Q_OBJECT
@@ -17,22 +17,22 @@ public:
     explicit Recorder(ControllerLink* below) : below(below) {}
 
     /**
-     * Starts the recording \a name in place of the present one. Only a device may exist already. Returns an error
-     * message, and the present recording goes on, or an empty string on success.
+     * Starts the recording \a name in place of the current one. Only a device may exist already. Returns an error
+     * message, or an empty string on success. After an error the current recording continues.
      */
     QString start(const QString& name);
     void stop();
     bool isRecording() const { return file != nullptr; }
-    /** Only while recording. */
+    /** Returns the name of the recording. Call it only while recording. */
     QString fileName() const { return file->fileName(); }
 
-    /** The connection is recorded with its first command, or at the end, so that no two follow each other. */
+    /** Records the connection with its first command, or at the end, so that no connection follows another one. */
     void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
 signals:
     void started();
-    /** The recording has ended. \a problem is the reason, or empty after stop(). */
+    /** Announces the end of the recording. \a problem is the reason, or empty after stop(). */
     void ended(const QString& problem);
 
 private:
@@ -40,9 +40,9 @@ private:
     void write(const RecordedLine& line);
 
     ControllerLink* below;
-    std::unique_ptr<QFile> file; // null while there is no recording
+    std::unique_ptr<QFile> file; // null while not recording
     qint64 wholeSize = 0;        // bytes in whole lines
-    QByteArray connection;       // the text of the present one
+    QByteArray connection;       // the connectionText() of the current one
     bool isConnectionDue = false;
     QElapsedTimer time;
 };

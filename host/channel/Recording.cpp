@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Reads one line; a null reason when it is whole. */
+/** Reads one line. Returns an error message, or an empty string on success. */
 QString readLine(const QString& text, RecordedLine* line)
 {
     static const QRegularExpression form(R"(^(\S+) ((\S+) .*?)( ->(?: (.*))?| failed)$)");
@@ -28,7 +28,7 @@ QString readLine(const QString& text, RecordedLine* line)
     if (match.captured(3) == "connect")
         return readConnection(line->text, &controller)
                    ? QString()
-                   : "a protocol version such as 1.23.0 is expected behind \"connect\"";
+                   : "a protocol version such as 1.23.0 is expected after \"connect\"";
     const bool isKnown = isOperation(match.captured(3).toLatin1());
     return isKnown ? QString() : QString("unknown operation \"%1\"").arg(match.captured(3));
 }
@@ -78,7 +78,7 @@ QString readRecording(const QString& file, QVector<RecordedLine>* lines)
     }
     ControllerIdentity controller;
     if (reason.isEmpty() && !readConnection(lines->value(0).text, &controller)) {
-        reason = "it does not begin with a \"connect\"";
+        reason = "a \"connect\" is expected before all commands";
         number = lines->isEmpty() ? 2 : lines->first().number;
     }
     return reason.isEmpty() ? QString() : QString("%1:%2: %3").arg(file).arg(number).arg(reason);

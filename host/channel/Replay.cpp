@@ -14,7 +14,7 @@ ControllerIdentity Replay::recordedController() const
     return controller;
 }
 
-/** The position of the next line that is not a poll. */
+/** Returns the position of the next line that is not a poll. */
 int Replay::nextCommand() const
 {
     return static_cast<int>(std::find_if_not(lines.begin() + position, lines.end(), isPoll) - lines.begin());

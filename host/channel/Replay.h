@@ -6,9 +6,9 @@
 #include <QObject>
 
 /**
- * Answers from a recording in place of a controller. Commands must come in the recorded order; the first one that
- * differs fails, and all that follow fail. A poll is answered from the last poll recorded before the command that is
- * due, "no" when there is none. Polls are never compared: their number depends on how long somebody looked.
+ * Answers from a recording in place of a controller. Commands must come in the recorded order. The first command that
+ * differs fails, and so do all later commands. A poll gets the last answer recorded before the command that is due, or
+ * "no" without one. Polls are never compared, because their number depends on how long the dialog was open.
  */
 class Replay : public QObject, public ControllerLink
 {
@@ -17,27 +17,27 @@ class Replay : public QObject, public ControllerLink
 public:
     explicit Replay(const QString& file) : file(file) {}
 
-    /** Reads the recording. Returns file, line and reason when it is damaged, or an empty text. */
+    /** Reads the recording. Returns an error message with file, line and reason, or an empty string on success. */
     QString open() { return readRecording(file, &lines); }
 
-    /** The controller of the first connection. Only after open(). */
+    /** Returns the controller of the first connection. Call it only after open(). */
     ControllerIdentity recordedController() const;
 
     QString fileName() const { return file; }
 
-    /** Whether every command of the recording has been asked. */
+    /** Returns true if every command of the recording has been sent. */
     bool isAtEnd() const;
 
     void connected(const ControllerIdentity& controller) override;
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
 signals:
-    /** A command differs from the recording. \a problem names the line, what was expected and what was found. */
+    /** Announces a command that differs from the recording. \a problem names line, expected and found command. */
     void differed(const QString& problem);
 
 private:
     int nextCommand() const;
-    /** The recorded line for what is asked; a failed one when it is not the one that is due. */
+    /** Returns the recorded line for \a asked, or a failed line if another command is due. */
     RecordedLine take(const RecordedLine& asked);
 
     QString file;

@@ -46,7 +46,7 @@ QString characterFault(const QString& line)
     const auto* const control = std::find_if(line.begin(), line.end(), isControl);
     if (control == line.end())
         return {};
-    return QString(R"(a control character, code %1; it is written "%2")")
+    return QString(R"(a control character, code %1. Write it as "%2".)")
         .arg(QString::number(control->unicode()), escapeOf(*control));
 }
 
@@ -55,11 +55,11 @@ QString textFault(const QString& line)
     static const QRegularExpression escapes(R"(^(?:[^\\]|\\[nr\\-]|\\x[0-9a-f]{2})*$)");
     if (QString::fromLatin1(line.toLatin1()) != line)
         return "a character that is not Latin-1, or not UTF-8";
-    return escapes.match(line).hasMatch() ? QString() : R"(an unknown "\"; the character itself is written "\\")";
+    return escapes.match(line).hasMatch() ? QString() : R"(an unknown "\". Write the character itself as "\\".)";
 }
 
 QStringList linesOf(const QByteArray& content)
 {
-    // The size tells fromUtf8() not to stop at a NUL byte.
+    // Without the size, fromUtf8() would stop at a NUL byte.
     return QString::fromUtf8(content.constData(), content.size()).replace("\r\n", "\n").split('\n');
 }

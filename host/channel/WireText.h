@@ -4,24 +4,23 @@
 #include <QString>
 #include <QStringList>
 
-// The texts of commands and answers are Latin-1. Recordings and controller files are UTF-8, one line per text. A line
-// break is written \n, a carriage return \r, a backslash \\, an arrow \->, any other control character by its code, as
-// in \x09.
+// Commands and answers are Latin-1. Recordings and controller files are UTF-8. They write a line break as \n, a
+// carriage return as \r, a backslash as \\, an arrow as \->, and any other control character as its code, such as \x09.
 
-/** Returns \a text as it stands in a file. */
+/** Returns \a text as a file writes it. */
 QString escaped(const QByteArray& text);
 
 /** Returns \a character as its code, such as \x20. */
 QString escapeOf(QChar character);
 
-/** Returns the text that \a written stands for. Only for a text without a fault. */
+/** Returns the text that \a written stands for. \a written must not have a fault. */
 QByteArray unescaped(const QString& written);
 
-/** Returns what is wrong with the characters of \a line, or an empty string if any line of a file may contain them. */
+/** Returns an error message if \a line has a control character, otherwise an empty string. */
 QString characterFault(const QString& line);
 
-/** Returns what is wrong with the texts in \a line: not Latin-1, or an unknown escape. Else an empty string. */
+/** Returns an error message if \a line is not Latin-1 or has an unknown escape, otherwise an empty string. */
 QString textFault(const QString& line);
 
-/** Splits a file's \a content into lines. The last one is empty unless the file was cut off. */
+/** Splits a file's \a content into lines. The last line is empty unless the file was cut off. */
 QStringList linesOf(const QByteArray& content);

@@ -24,7 +24,7 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
     if (!files.isEmpty())
         name = QFileInfo(files.first()).dir().filePath(name);
     if (isName && !QFileInfo::exists(name))
-        return QString("%1: not the name of a controller; --list shows the names, and a file needs a path such as ./%1")
+        return QString("%1: not the name of a controller. --list shows the names. A file needs a path such as ./%1")
             .arg(wanted);
     const QString path = QFileInfo(name).canonicalFilePath();
     if (files.contains(path))
@@ -49,7 +49,7 @@ QString saveTable(const QString& file, const ControllerTable& table)
     if (QFileInfo::exists(file) && !QFileInfo(file).isFile())
         return file + ": not a file"; // The writer would replace a device.
     QSaveFile output(file);
-    // Without a buffer: commit() was seen to succeed with an empty file when the disk was full.
+    // There is no buffer: with one, commit() succeeded with an empty file on a full disk.
     const QByteArray text = written(table);
     const bool isSaved = output.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
                          && writeWhole(&output, text) == text.size() && output.commit();

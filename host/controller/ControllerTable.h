@@ -12,10 +12,10 @@ inline VersionInfo newestProtocol()
     return {1, 23, 0};
 }
 
-/** What a controller answers to one command. */
+/** A controller's answer to one command. */
 struct AnswerRow
 {
-    /** Such as "synccard source d01". A row for one operation only has it in front: "set synccard source d01". */
+    /** "synccard source d01", for instance. A row for a single operation starts with it: "set synccard source d01". */
     QByteArray command;
     QByteArray answer;
     bool isFailure = false; // The command fails.

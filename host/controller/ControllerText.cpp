@@ -10,7 +10,7 @@ static constexpr int maximumRows = 20000;
 static constexpr char tooManyRows[] = "more than 20000 rows";
 static constexpr char failure[] = "!";
 
-/** NUL bytes included. */
+/** Returns \a latin1 as a string, including NUL bytes. */
 static QString textOf(const QByteArray& latin1)
 {
     return QString::fromLatin1(latin1.constData(), latin1.size());
@@ -49,11 +49,11 @@ void ControllerText::readHeader(const QString& key, const QString& value)
         (key == "model" ? table->identity.model : table->description) = textOf(unescaped(value));
 }
 
-/** Begins with another table. The header lines before stay. */
+/** Starts from another table. Keeps the header lines before. */
 void ControllerText::readBase(const QString& name)
 {
     ControllerTable base;
-    demand(!files.isEmpty() && !hasAnswers, "\"from\" stands only in a file, before all answers");
+    demand(!files.isEmpty() && !hasAnswers, "\"from\" is allowed only in a file, before all answers");
     const QString problem = fault.isEmpty() ? readTable(name, files, &base) : fault;
     demand(problem.isEmpty(), "from " + problem);
     base.description = table->description;
@@ -64,7 +64,7 @@ void ControllerText::readBase(const QString& name)
     *table = base;
 }
 
-/** Reads a line, or one line for each number of a range. A range in the answer counts along with the command's. */
+/** Reads a line, or one line for each number of a range. The same range in the answer counts along. */
 void ControllerText::expand(const QString& command, const QString& answer)
 {
     static const QRegularExpression range(R"(\[(\d+)-(\d+)\])");
@@ -91,7 +91,7 @@ void ControllerText::readAnswer(const QString& command, const QString& answer)
     const QString problem = commandFault(row.command);
     demand(problem.isEmpty(), problem);
     demand(!row.command.startsWith("set ") || row.answer.isEmpty(),
-           "a write has no answer: leave it empty to accept the write, or refuse it by \"!\"");
+           "a write has no answer. Leave it empty to accept the write, or write \"!\" to refuse it.");
     demandFirst(row.command);
     table->insert(row);
     hasAnswers = true;
@@ -107,7 +107,7 @@ void ControllerText::demand(bool condition, const QString& otherwise)
 
 void ControllerText::demandFirst(const QByteArray& left)
 {
-    demand(!seen.contains(left), '"' + escaped(left) + "\" stands here twice");
+    demand(!seen.contains(left), '"' + escaped(left) + "\" appears twice");
     seen.insert(left);
 }
 
@@ -133,7 +133,7 @@ QString changeTable(ControllerTable* table, const QString& lines)
     return {};
 }
 
-/** Blanks at the ends are dropped when a file is read, so they are written by their codes. */
+/** Writes blanks at the ends as their codes, because reading a file drops blanks. */
 QString written(const QByteArray& text)
 {
     QString line = escaped(text);

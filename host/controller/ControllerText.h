@@ -7,15 +7,15 @@
 
 /**
  * Reads the lines of a controller file into a table, one by one. docs/workbench.md describes the format. A line
- * replaces what the table held before, but none may stand twice.
+ * replaces an earlier row of the table, but the same command must not appear twice.
  */
 class ControllerText
 {
 public:
-    /** \a files are the file that is read and those that led to it by "from", last first; none for pasted lines. */
+    /** \a files are the file that is read and those that led to it by "from", last first. Empty for pasted lines. */
     explicit ControllerText(ControllerTable* table, const QStringList& files = {}) : table(table), files(files) {}
 
-    /** Reads \a line. Returns what is wrong with it, or an empty string. */
+    /** Reads \a line. Returns an error message, or an empty string on success. */
     QString read(const QString& line);
 
 private:
@@ -36,14 +36,17 @@ private:
 /** Reads "1.23" or "1.23.0" into \a protocol. Returns an error message, or an empty string on success. */
 QString readProtocol(const QString& text, VersionInfo* protocol);
 
-/** Changes \a table by \a lines. Returns "line 2: fault", and \a table is unchanged, or an empty string on success. */
+/**
+ * Changes \a table by \a lines. Returns an error message such as "line 2: fault", or an empty string on success. An
+ * error leaves \a table unchanged.
+ */
 QString changeTable(ControllerTable* table, const QString& lines);
 
-/** How a controller file writes a text. */
+/** Returns \a text as a controller file writes it. */
 QString written(const QByteArray& text);
-/** How a controller file writes the command of \a row. */
+/** Returns the command of \a row as a controller file writes it. */
 QString writtenCommand(const AnswerRow& row);
-/** How a controller file writes the answer of \a row. */
+/** Returns the answer of \a row as a controller file writes it. */
 QString writtenAnswer(const AnswerRow& row);
-/** Writes all of \a table as a controller file, which reads back to the same table. */
+/** Returns \a table as a controller file, which reads back to the same table. */
 QByteArray written(const ControllerTable& table);

@@ -8,7 +8,7 @@
 
 namespace {
 
-// A new controller command is a row here.
+// A new controller command needs a row here.
 const Parameter parameters[] = {
     {"config is_changeable", 1, 9, Rule::ReadOnly},
     {"synccard available", 0, 8, Rule::ReadOnly},
@@ -44,7 +44,7 @@ QVector<QByteArrayList> splitForms()
     return forms;
 }
 
-/** Returns true if \a word of a command may stand where a form has \a part, such as "d01" for "dNN". */
+/** Returns true if \a word of a command matches \a part of a form, as "d01" matches "dNN". */
 bool isPart(const QByteArray& part, const QByteArray& word)
 {
     bool isNumber = false;
@@ -83,7 +83,7 @@ QString unknown(const QByteArray& name, const QByteArrayList& known)
     };
     const auto isLess = [&](const QByteArray& a, const QByteArray& b) { return alike(a) < alike(b); };
     const QByteArray nearest = *std::max_element(known.begin(), known.end(), isLess);
-    return QString(R"("%1" is unknown; the nearest is "%2")").arg(escaped(name), QString(nearest));
+    return QString(R"("%1" is unknown. The nearest is "%2".)").arg(escaped(name), QString(nearest));
 }
 
 QString commandFault(const QByteArray& command)

@@ -6,7 +6,7 @@
 #include <QByteArrayList>
 #include <QString>
 
-/** Which values a write accepts. */
+/** The values that a write accepts. */
 enum class Rule { ReadOnly, Mode, Source, Frequency, Divisor, Output, Delay, Flag };
 
 /** A parameter that controllers have. */
@@ -22,10 +22,10 @@ struct Parameter
     bool isKnownTo(const VersionInfo& protocol) const { return protocol >= VersionInfo(major, minor, -1); }
 };
 
-/** A command taken apart. */
+/** A command and its parts. */
 struct Request
 {
-    /** A raw \a command begins with "zorvan2 get" or "zorvan2 set". */
+    /** A raw \a command starts with "zorvan2 get" or "zorvan2 set". */
     Request(Operation operation, const QByteArray& command);
 
     bool isRaw;
@@ -35,11 +35,11 @@ struct Request
     QByteArray value;                     // of a write: "video"
 };
 
-/** Returns "NAME is unknown; the nearest is ...", with the one of \a known that begins most like \a name. */
+/** Returns the error message that \a name is unknown. It suggests the \a known name with the longest common start. */
 QString unknown(const QByteArray& name, const QByteArrayList& known);
 
 /**
- * Returns what is wrong with \a command as a row of a table, such as a misspelt parameter, or an empty string. Such a
- * command may have its operation in front, and a write may lack its value.
+ * Returns an error message if \a command cannot be a row of a table, such as a misspelt parameter. Otherwise returns an
+ * empty string. The command may start with its operation, and a write may lack its value.
  */
 QString commandFault(const QByteArray& command);

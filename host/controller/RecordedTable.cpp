@@ -21,7 +21,7 @@ static void add(const RecordedLine& line, ControllerTable* table)
         row = {command.mid(static_cast<int>(qstrlen(rawRead))), line.answer.mid(command.size() + 1)};
     const AnswerRow* const earlier = table->find(row.command);
     if (earlier && (earlier->answer != row.answer || earlier->isFailure != row.isFailure))
-        row = {line.text, line.answer, !line.isAnswered}; // Another operation has given another answer.
+        row = {line.text, line.answer, !line.isAnswered}; // Another operation had a different answer.
     if (!table->find(row.command))
         table->insert(row);
 }

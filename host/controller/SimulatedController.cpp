@@ -103,7 +103,7 @@ bool SimulatedController::isBetween(const QByteArray& value, double minimum, con
     return isNumber && number >= minimum && (!isLimit || !(number > maximum));
 }
 
-/** A new source lowers the divisor to its maximum. An output that the source does not offer becomes "none". */
+/** Lowers the divisor to the maximum of the new source. Sets an output that the source does not offer to "none". */
 void SimulatedController::followSource(const QByteArray& card, const QByteArray& source)
 {
     const QByteArray divisor = "synccard external_divisor " + card;
@@ -118,7 +118,7 @@ void SimulatedController::followSource(const QByteArray& card, const QByteArray&
         current.insert({name, "none"});
 }
 
-/** Returns the answer in the row of \a command; empty without one or if the command fails. */
+/** Returns the answer in the row of \a command. Without a row, or if the command fails, returns an empty string. */
 QByteArray SimulatedController::answerTo(const QByteArray& command) const
 {
     const AnswerRow* row = current.find(command);

@@ -7,9 +7,9 @@
 struct Request;
 
 /**
- * A tracking controller with synccards, without the hardware. A read is answered from its table, a write changes the
- * table. Commands newer than its protocol, writes that a rule refuses, and everything that the table does not answer
- * fail and change nothing.
+ * A tracking controller with synccards, but without hardware. It answers a read from its table. A write changes the
+ * table. A command fails and changes nothing if it is newer than the protocol, if a rule refuses it, or if the table
+ * has no answer to it.
  */
 class SimulatedController : public QObject, public ControllerLink
 {
@@ -18,7 +18,9 @@ class SimulatedController : public QObject, public ControllerLink
 public:
     explicit SimulatedController(const ControllerTable& initial) : current(initial) {}
 
-    /** A raw command is "zorvan2 get ..." or "zorvan2 set ...". Its reply line repeats it. The value of a read follows.
+    /**
+     * Executes a command. A raw command is "zorvan2 get ..." or "zorvan2 set ...". Its reply line is the command,
+     * followed by the value of a read.
      */
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
@@ -26,7 +28,7 @@ public:
     void setTable(const ControllerTable& table);
 
 signals:
-    /** The table has changed, by a command or by setTable(). */
+    /** Announces that a command or setTable() has changed the table. */
     void changed();
 
 private:

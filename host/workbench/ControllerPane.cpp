@@ -68,7 +68,7 @@ ControllerPane::ControllerPane(DevelopmentHost* host)
     refresh();
 }
 
-/** Changes the controller by \a text, lines of a controller file. Either all lines are accepted or none. */
+/** Changes the controller by \a text, lines of a controller file. A wrong line leaves the controller unchanged. */
 void ControllerPane::change(const QString& text)
 {
     ControllerTable changed = host->controller().table();

@@ -12,7 +12,7 @@ class QLabel;
 
 /**
  * Shows and edits the table of the host's simulated controller as a controller file writes it, from the protocol on.
- * Rows that differ from when the dialog was last opened are bold and have a star. Does not own the host.
+ * Rows that have changed since the dialog was last opened are bold and have a star. Does not own the host.
  */
 class ControllerPane : public QWidget
 {
@@ -28,7 +28,7 @@ private:
     void showLine(int row, const QString& line, bool isChanged);
 
     DevelopmentHost* host;
-    ControllerTable opened; // the controller's, when the dialog was last opened
+    ControllerTable opened; // the controller's table at the last opening
     QStandardItemModel rows;
     FilteredTable* table;
     QLabel* problem;   // of the last change

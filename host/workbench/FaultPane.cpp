@@ -71,7 +71,7 @@ QWidget* createFaultPane(DevelopmentHost* host)
 {
     QWidget* count = createCount(host);
     QWidget* pattern = createPattern(&host->faults());
-    // What was recorded as failed fails in a replay.
+    // In a replay, the recording decides which commands fail.
     count->setEnabled(!host->isReplaying());
     pattern->setEnabled(!host->isReplaying());
     auto* eventLoop = new QCheckBox("&wait in an event loop");

@@ -18,10 +18,10 @@
 
 static constexpr int answerColumn = 3;
 static constexpr int sumMilliseconds = 100;    // so that no opening waits for the sum
-static constexpr int slowMicroseconds = 10000; // more than it takes to paint the table
+static constexpr int slowMicroseconds = 10000; // longer than painting the table takes
 static constexpr char timeFormat[] = "HH:mm:ss.zzz";
 
-/** What the first cell of a row has besides its line. */
+/** The data of a row's first cell, in addition to its line. */
 enum Role {
     KindRole = FilteredTable::lineRole + 1, // "poll" if the row may be hidden, else "row"
     DurationRole,                           // milliseconds of a command
@@ -58,7 +58,7 @@ LogPane::LogPane(DevelopmentHost* host)
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this, sumSoon);
 }
 
-/** Shows a slow command at once: no event loop may run before the module has asked all its commands. */
+/** Adds a command. Shows a slow one at once, because the event loop might not run before the module's last command. */
 void LogPane::addCommand(const CommandRecord& record)
 {
     addLater([this, record, time = QTime::currentTime()] {
@@ -155,7 +155,7 @@ QBoxLayout* LogPane::createFooter()
     return row;
 }
 
-/** Sums up the selected rows, or all that are shown if none is selected. */
+/** Sums up the selected rows, or all rows shown without a selection. */
 void LogPane::sumUp()
 {
     int commands = 0;

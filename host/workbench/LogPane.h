@@ -36,7 +36,7 @@ private:
     void sumUp();
 
     QStandardItemModel log;
-    QVector<std::function<void()>> pending; // add rows from the event loop, so that the log slows no opening down
+    QVector<std::function<void()>> pending; // add rows from the event loop, so that the log does not slow down openings
     QTimer showing;
     QSortFilterProxyModel* unpolled; // without the polls, if they are hidden
     FilteredTable* table;

@@ -8,9 +8,9 @@
 /**
  * The host's record of the controller side: system versions, protocol version and controller model.
  *
- * The host owns the record and hands a pointer to it to every module ("BackendVersions"). Modules read it on the GUI
- * thread whenever they need it, and never change it. The host may assign new values to it while no module dialog is
- * open, and keeps it alive until ModuleInterface::exit_module() has returned.
+ * The host owns the record and hands a pointer to it to every module ("BackendVersions"). Modules read the record on
+ * the GUI thread whenever they need it, and never change it. The host may assign new values while no module dialog is
+ * open. It keeps the record alive until ModuleInterface::exit_module() has returned.
  */
 class BackendVersions
 {
@@ -22,10 +22,10 @@ public:
     const VersionInfo& systemPt() const { return sysPt; }
     const VersionInfo& systemCt() const { return sysCt; }
 
-    /** The version of the controller's command protocol. It decides which commands a module may send. */
+    /** Returns the version of the controller's command protocol, which decides which commands a module may send. */
     const VersionInfo& protocol() const { return prot; }
 
-    /** The controller's model text, such as "QUILLSTONE 3". */
+    /** Returns the controller's model, such as "QUILLSTONE 3". */
     const QString& hubModel() const { return mod; }
 
 private:

@@ -9,7 +9,7 @@
 #include <QtPlugin>
 
 /**
- * One menu entry of a module. The module owns the record, the action and the content; the host reads the record
+ * One menu entry of a module. The module owns the record, the action and the content. The host reads the record
  * after ModuleInterface::get_gui_elements() and places the action in its menus.
  */
 struct _GuiElement // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the contract's name
@@ -17,54 +17,57 @@ struct _GuiElement // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl5
     _GuiElement() = default;
     ~_GuiElement() = default;
 
-    /** The entry. The module alone handles its activation. */
+    /** The action of the menu entry. Only the module handles its activation. */
     QAction* menu_entry = nullptr;
-    /** The place of the entry within its menu: smaller numbers first. */
+    /** The position of the menu entry in its menu. Smaller numbers come first. */
     int menu_entry_order_number = 0;
     /** The translated name of the menu, with its mnemonic. */
     QString menu_name;
-    /** The place of the menu in the menu bar: smaller numbers first. */
+    /** The position of the menu in the menu bar. Smaller numbers come first. */
     int menu_order_number = 0;
-    /** The widget the entry opens; null once it is gone. */
+    /** The widget that the menu entry opens, or null after its deletion. */
     QWidget* content = nullptr;
-    /** 0: the host disables the entry while a measurement runs. */
+    /** If 0, the host disables the menu entry while a measurement runs. */
     int action_active_during_measurement = 0;
 };
 typedef _GuiElement GuiElement; // NOLINT(modernize-use-using): the contract's form
 
 /**
  * The functions that every module plug-in offers to the host. The host calls them on its GUI thread in this order:
- * set_param() for each of its four values, get_gui_elements(), and at shutdown about_to_exit_module() and
- * exit_module(), while the parent widget still exists. Then the host deletes the module object, which it owns.
+ * - set_param() for each of its four values
+ * - get_gui_elements()
+ * - at shutdown, while the parent widget still exists: about_to_exit_module(), then exit_module()
+ *
+ * Finally the host deletes the module object, which it owns.
  */
 class ModuleInterface
 {
 public:
     virtual ~ModuleInterface() = default;
 
-    /** Tells the module that the host is about to call exit_module(). */
+    /** Announces that the host is about to call exit_module(). */
     virtual void about_to_exit_module() = 0;
 
-    /** Deletes the module's windows. The host's objects must still be alive. Calling it again is harmless. */
+    /** Deletes the module's windows. The host's objects must still be alive. A second call is harmless. */
     virtual void exit_module() = 0;
 
-    /** The module's translated name. */
+    /** Returns the module's translated name. */
     virtual QString get_module_name() const = 0;
 
-    /** The module's version, such as "v1.2.7". */
+    /** Returns the module's version, such as "v1.2.7". */
     virtual QString get_module_version() const = 0;
 
     /**
-     * The module's menu entries, which the module owns. It creates them at the first call, and again at the first
+     * Returns the module's menu entries, which the module owns. The first call creates them, and so does the first
      * call after exit_module().
      */
     virtual QList<_GuiElement*> get_gui_elements() = 0;
 
     /**
-     * Hands over one of the host's values before the first get_gui_elements():
+     * Gives one of the host's values to the module, before the first get_gui_elements():
      * "CommandManager" (IOManager*), "ModuleParent" (QWidget*), "BackendVersions" (BackendVersions*) and
-     * "ObserverMode" (bool). The host keeps ownership of the objects. Any other name is ignored; a value that cannot
-     * be converted counts as null or false.
+     * "ObserverMode" (bool). The host keeps ownership of the objects. The module ignores any other name. A value
+     * that cannot be converted counts as null or false.
      */
     virtual void set_param(QString name, QVariant value) = 0;
 };

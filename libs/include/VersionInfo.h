@@ -8,7 +8,7 @@
  *
  * A threshold is written with patch -1, so that every release of that minor version meets it:
  * protocol 0.13 means `protocol >= VersionInfo(0, 13, -1)`.
- * A plain value: the host creates it, host and modules copy and compare it on the GUI thread.
+ * A plain value. The host creates it. Host and modules copy and compare it on the GUI thread.
  */
 class VersionInfo
 {
@@ -23,8 +23,9 @@ public:
     }
 
     /**
-     * Reads "1.23.0" or "1.23"; a missing patch counts as 0. Refuses blanks and plus signs.
-     * Sets \a ok, which may be null, to whether \a text is such a version; if it is not, this version stays unchanged.
+     * Reads "1.23.0" or "1.23". A missing patch counts as 0. Refuses blanks and plus signs.
+     * Sets \a ok, which may be null, to true if \a text is a version. Otherwise sets it to false and
+     * leaves this version unchanged.
      */
     void fromString(const QString& text, bool* ok = nullptr)
     {
@@ -45,10 +46,10 @@ public:
             *ok = isVersion;
     }
 
-    /** The version as "1.23.0", always with all three integers. */
+    /** Returns the version as "1.23.0", always with all three integers. */
     QString toString() const { return QStringLiteral("%1.%2.%3").arg(ma).arg(mi).arg(pa); }
 
-    // Not major() and minor(): older C libraries define these names as macros.
+    // The names are not major() and minor(), because older C libraries define these as macros.
     int majorVersion() const { return ma; }
     int minorVersion() const { return mi; }
     int patch() const { return pa; }

@@ -39,8 +39,8 @@ SynccardDialog::~SynccardDialog()
 }
 
 /**
- * Lets selectors and spin boxes take the wheel only while they have the focus. Without it, a wheel that is meant for
- * the window would change whatever lies under the pointer.
+ * Lets selectors and spin boxes react to the wheel only while they have the focus. Otherwise a wheel that is meant for
+ * the window would change the control under the pointer.
  */
 void SynccardDialog::takeWheelWithFocusAlone()
 {
@@ -117,7 +117,7 @@ bool SynccardDialog::is_config_locked()
     return answer.text() == QLatin1String("no");
 }
 
-/** Enables or disables an editing control. A locked configuration keeps it disabled. */
+/** Enables or disables an editing control. If the configuration is locked, the control stays disabled. */
 void SynccardDialog::setEditable(QWidget* control, bool bEnable) const
 {
     control->setEnabled(bEnable && !m_is_config_locked);

@@ -14,9 +14,10 @@ class BackendVersions;
 class IOManager;
 
 /**
- * The modal "Synccard Settings" dialog. At every opening it reads the synccard settings from the controller and shows
- * them; on OK it writes the changes back. It lives on the GUI thread. The host keeps ownership of channel, versions and
- * parent; without channel or versions the dialog behaves as if there were no synccard.
+ * The modal "Synccard Settings" dialog. Each opening reads the synccard settings from the controller and shows them. If
+ * the user has changed anything, OK writes the mode or all direct settings of card 1, then the output. The dialog lives
+ * on the GUI thread. The host keeps ownership of channel, versions and parent. Without channel or versions, the dialog
+ * behaves as if there were no synccard.
  */
 class SynccardDialog : public QDialog, public Ui::synccarddialog
 {
@@ -29,13 +30,13 @@ public:
 public slots:
     /**
      * Fills the dialog from the controller and runs it modally. Returns QDialog::Accepted or QDialog::Rejected. Returns
-     * -1, without running the dialog, while an earlier call or another step is under way, or when a read fails that the
-     * dialog cannot do without.
+     * -1 without running the dialog if an earlier call or another step is under way, or if a read that the dialog needs
+     * fails.
      */
     int update_and_exec();
 
 private slots:
-    // A change by the user marks the dialog as changed. A new source is also written to the controller at once.
+    // A change by the user marks the dialog as changed. In addition, a new source is written to the controller at once.
     void on_comboBox_output_currentIndexChanged(int idx);
     void on_tableWidget_channels_cellChanged(int row, int column);
     void on_comboBox_modes_currentIndexChanged(const QString& s);
@@ -46,14 +47,14 @@ private slots:
     void accept() override;
     void reject() override;
 
-    /** Shows what the sync input measures; the timer calls it once a second while the dialog is open. */
+    /** Shows the values of the sync input. The timer calls this slot once per second while the dialog is open. */
     void poll_input_frequency();
 
 private:
     /** The columns of the card table, from left to right. */
     enum CardColumn { ModelColumn, SerialColumn, CardColumnCount };
 
-    // Entry and switches: SynccardDialog.cpp
+    // Construction, opening and switches: SynccardDialog.cpp
     void takeWheelWithFocusAlone();
     bool eventFilter(QObject* watched, QEvent* event) override;
     int update_and_exec_prot_version_0_13();
@@ -64,7 +65,7 @@ private:
     void showDetails(bool bShow);
     void updateWidthContols();
     void setEditable(QWidget* control, bool bEnable) const;
-    /** Whether the controller speaks protocol \a major.\a minor or later; false without versions. */
+    /** Returns true if the controller speaks protocol \a major.\a minor or later. Returns false without versions. */
     bool isProtocolAtLeast(int major, int minor) const;
     bool hasCurrentCard() const;
 
@@ -87,7 +88,7 @@ private:
     void update_spinBox_externalDivisor();
     void show_internal_frequency();
     void show_external_divisor(const QString& source);
-    /** Whether the controller speaks protocol 1.9 or 1.10, where OK writes no divisor. */
+    /** Returns true if the controller speaks protocol 1.9 or 1.10. OK writes no divisor there. */
     bool isProtocolWithoutDivisor() const;
 
     // Sync output and channels: SynccardDialog_channels.cpp
@@ -138,16 +139,16 @@ private:
     QWidget* m_parent = nullptr;
     bool bSynccardAvailable = false;
     DoubleSpinboxDelegate doubleSpinboxDelegate;
-    bool bUserAction = false; // from an opening's exec() until it ends, an exit begins or the dialog is hidden
+    bool bUserAction = false; // from an opening's exec() until exec() ends, closing starts or the dialog is hidden
     bool bSomethingChanged = false;
     SynccardList synccards;
     SynccardList previousSettings;
-    QString sSentSource; // the last source sent, or that of a later snapshot
+    QString sSentSource; // the source last sent, or the source of a later snapshot
     bool m_is_config_locked = false;
     QIcon m_icon_lock;
     bool bBusy = false;      // a step is under way
     bool bExecuting = false; // exec() has not returned yet
     bool bSourceWaits = false;
     std::optional<DialogCode> waitingExit;
-    QTimer waitTimer; // carries out what waits
+    QTimer waitTimer; // carries out the requests that wait
 };

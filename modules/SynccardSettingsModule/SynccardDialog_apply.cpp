@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Results of saveDirectSettings(). Their numbers are part of the contract; 5 and 6 are not used. */
+/** Results of saveDirectSettings(). Their numbers are part of the contract. 5 and 6 are not used. */
 enum SaveResult {
     Saved = 0,
     DirectSettingsFailed = 1,
@@ -51,8 +51,8 @@ void SynccardDialog::storeActualDirectSettingsToSynccardList()
 }
 
 /**
- * Writes the direct settings of card 1 and returns a SaveResult. Stops at the first failure; only a failed channel
- * value lets it go on.
+ * Writes the direct settings of card 1 and returns a SaveResult. Stops at the first failure, except after
+ * a failed channel value.
  */
 int SynccardDialog::saveDirectSettings()
 {
@@ -108,7 +108,7 @@ int SynccardDialog::saveFrequencyOrDivisor(const Synccard& card)
     return Saved;
 }
 
-/** Writes delay and idle flag of every channel. Reports each failure and goes on with the next value. */
+/** Writes the delay and the idle flag of every channel. Reports each failure and continues with the next value. */
 void SynccardDialog::saveChannels(const Synccard& card)
 {
     const int number = card.id() + 1;
@@ -129,7 +129,7 @@ void SynccardDialog::saveChannels(const Synccard& card)
     }
 }
 
-/** A failed write counts as sent, too: the controller may have taken the source nevertheless. */
+/** Writes the source. Returns 0 on success. Even a failed write counts as sent: the controller may have accepted it. */
 int SynccardDialog::setSourceToHub(const QString& source)
 {
     sSentSource = source;
@@ -141,8 +141,8 @@ int SynccardDialog::setSourceToHub(const QString& source)
 }
 
 /**
- * Writes the chosen output if the controller offers it and does not use it yet. Returns true when the controller uses
- * the chosen output at the end.
+ * Writes the chosen output if the controller offers it and does not use it yet. Returns true if the controller uses
+ * the chosen output afterwards.
  */
 bool SynccardDialog::setSyncOutputToHub(const QByteArray& source, const QByteArray& output)
 {

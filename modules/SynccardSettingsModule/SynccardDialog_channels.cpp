@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int rowHeight = 20;                  // pixels
-constexpr int defaultRowHeight = 28;           // pixels; every row that is shown gets rowHeight instead
+constexpr int defaultRowHeight = 28;           // pixels, but every row that is shown gets rowHeight instead
 constexpr int initialChannelColumnWidth = 200; // pixels, until channels are listed
 constexpr int channelColumnWidth = 110;        // pixels
 constexpr int delayColumnWidth = 110;          // pixels
@@ -103,7 +103,7 @@ void SynccardDialog::update_tableWidget_channels()
     const Qt::ItemFlags idleFlags =
         hasFixedIdle ? Qt::ItemFlags(Qt::ItemIsUserCheckable) : Qt::ItemIsUserCheckable | Qt::ItemIsEnabled;
     const QString maximumText = QString::number(microseconds(maximumDelay), 'f', 1);
-    // Each row would signal four cell changes that nobody needs.
+    // Without the blocker, each row would signal four cell changes that nothing needs.
     const QSignalBlocker blocker(tableWidget_channels);
     tableWidget_channels->setRowCount(boundedCount(channels));
     for (int row = 0; row < tableWidget_channels->rowCount(); ++row)
@@ -112,7 +112,7 @@ void SynccardDialog::update_tableWidget_channels()
     tableWidget_channels->setColumnWidth(DelayColumn, delayColumnWidth);
 }
 
-/** Sets each item's properties before the table gets it. Once it is in the table, each one would signal a change. */
+/** Fills a row. Sets an item's properties before the table gets it: later, each of them would signal a change. */
 void SynccardDialog::show_channel(int row, const QString& maximumDelay, Qt::ItemFlags idleFlags)
 {
     const int channel = row + 1;
@@ -131,7 +131,7 @@ void SynccardDialog::show_channel(int row, const QString& maximumDelay, Qt::Item
     tableWidget_channels->setRowHeight(row, rowHeight);
 }
 
-/** The channel's output delay in milliseconds ("synccard output_delay"); 0 when it cannot be read. */
+/** Returns the channel's output delay in milliseconds ("synccard output_delay"), or 0 if it cannot be read. */
 double SynccardDialog::read_delay(int channel)
 {
     double delay = 0.0;

@@ -21,7 +21,7 @@ constexpr double minimumInternalFrequencyHz = 10.0;
 constexpr int defaultMaximumDivisor = 100;
 constexpr int fixedDivisor = 2;
 
-/** The number at the beginning of a serial. \a ok becomes false when there is none or it exceeds 64 bits. */
+/** Returns the number at the start of a serial. Sets \a ok to false if it is missing or exceeds 64 bits. */
 qlonglong leadingNumber(const QByteArray& token, bool* ok)
 {
     qlonglong number = 0;
@@ -44,7 +44,7 @@ void SynccardDialog::setup_tableWidget_synccards()
     tableWidget_synccards->setAccessibleName(tableWidget_synccards->whatsThis());
 }
 
-/** Lists all cards. Returns false when their number or one of the cards cannot be read. */
+/** Lists all cards. Returns false if their number or one of the cards cannot be read. */
 bool SynccardDialog::update_tableWidget_synccards()
 {
     int cards = 0;
@@ -63,7 +63,7 @@ bool SynccardDialog::update_tableWidget_synccards()
     return true;
 }
 
-/** Inserts the card as the first row, so card 1 ends up in the last row. Returns false when it cannot be read. */
+/** Inserts a card as the first row, so that card 1 ends up in the last row. Returns false if it cannot be read. */
 bool SynccardDialog::add_card(int number)
 {
     TextAnswer record;
@@ -84,8 +84,8 @@ bool SynccardDialog::add_card(int number)
 
     auto* modelItem = new QTableWidgetItem(description.text().remove(QLatin1Char('"')));
     modelItem->setData(Qt::UserRole, model);
-    // No QStringLiteral: its text lies in the plug-in's memory. The style still keeps the text it painted last after
-    // the host has unloaded the plug-in.
+    // Not a QStringLiteral, because its text is in the plug-in's memory. The style keeps the text that it painted last,
+    // even after the host has unloaded the plug-in.
     auto* serialItem = new QTableWidgetItem(hasSerial ? serial : QString(QLatin1Char('-')));
     serialItem->setTextAlignment(Qt::AlignCenter);
     serialItem->setData(Qt::UserRole, serialNumber);
@@ -95,7 +95,7 @@ bool SynccardDialog::add_card(int number)
     return true;
 }
 
-/** Updates the source first, because output, frequency and divisor depend on the selected source. */
+/** Updates the direct settings. The source comes first, because output, frequency and divisor depend on it. */
 void SynccardDialog::updateControlsDirectSettings()
 {
     update_comboBox_source();
@@ -120,7 +120,7 @@ void SynccardDialog::update_comboBox_source()
         else if (answer.isYes())
             comboBox_source->addItem(tr(source.description), QString::fromLatin1(source.keyword));
     }
-    // The current row is the first one during an opening, so this asks card 1, although the row shows the last card.
+    // During an opening, the current row is the first one, so this command asks card 1. The row shows the last card.
     TextAnswer current;
     if (cm->getParameter(current.buffer(), "synccard source d%2.2d", tableWidget_synccards->currentRow() + 1) != 0) {
         reportError(cm, QStringLiteral("Error: Unable to get Synccard source"));
@@ -200,7 +200,7 @@ void SynccardDialog::show_external_divisor(const QString& source)
             cm, QStringLiteral("Error: Unable to get maximum external divisor from synccard 1 with %2").arg(source));
         maximum = 1;
     }
-    // A divisor with only one possible value is shown, but disabled.
+    // A divisor with a single possible value is shown, but disabled.
     const bool isFixed = maximum <= minimum;
     label_externalDivisor->setDisabled(isFixed);
     setEditable(spinBox_externalDivisor, !isFixed);

@@ -7,7 +7,7 @@
 #include <QMessageBox>
 #include <QPointer>
 
-/** Keeps the current settings for Cancel to restore. Without a current card the earlier ones stay. */
+/** Keeps the current settings so that Cancel can restore them. Without a current card, the earlier snapshot stays. */
 void SynccardDialog::storePreviousSettings()
 {
     if (!hasCurrentCard())
@@ -30,7 +30,7 @@ void SynccardDialog::accept()
         return;
     synccards.clear();
     if (bSomethingChanged && comboBox_modes->currentIndex() >= 0) {
-        // Taken now: OK writes what is shown when it begins.
+        // Read before the first command: OK writes the values that are shown when the user presses it.
         const QByteArray source = comboBox_source->currentData().toString().toLatin1();
         const QByteArray output = comboBox_output->currentData().toString().toLatin1();
         const bool isDirect = isDirectSettings(comboBox_modes->currentText());
@@ -48,7 +48,7 @@ void SynccardDialog::reject()
         return;
     synccards.clear();
     if (bSynccardAvailable) {
-        storeActualDirectSettingsToSynccardList(); // what is shown, to compare with the snapshot
+        storeActualDirectSettingsToSynccardList(); // the values shown, to compare with the snapshot
         restorePreviousSettings();
     }
     endExit(Rejected);
@@ -63,11 +63,11 @@ bool SynccardDialog::applyMode()
     return false;
 }
 
-/** Shows the warning box. Returns false when the dialog was deleted, with its parent, while the box was open. */
+/** Shows the warning box. Returns false if the dialog was deleted with its parent while the box was open. */
 bool SynccardDialog::warnOfFailedChange()
 {
     const QPointer<SynccardDialog> self(this);
-    // On the heap, because the dialog owns the box: a dialog that is deleted meanwhile deletes the box too.
+    // The box is on the heap, because the dialog owns it: if the dialog is deleted meanwhile, it deletes the box.
     const QPointer<QMessageBox> box(new QMessageBox(
         QMessageBox::Critical, tr("Warning"), tr("Error occured while performing the change"), QMessageBox::Ok, this));
     box->exec();
@@ -76,8 +76,8 @@ bool SynccardDialog::warnOfFailedChange()
 }
 
 /**
- * Restores the source, if the last one sent was another, and then the frequency or the divisor, which may have changed
- * with it. Does nothing unless the dialog was opened with direct settings and still shows them.
+ * Restores the source if the source last sent is a different one. Then restores the frequency or the divisor, which may
+ * have changed with the source. Does nothing unless the dialog was opened with direct settings and still shows them.
  */
 void SynccardDialog::restorePreviousSettings()
 {
@@ -99,7 +99,10 @@ void SynccardDialog::restorePreviousSettings()
     }
 }
 
-/** Returns false, so that nothing more is restored, when the card no longer offers the source or the query fails. */
+/**
+ * Writes the source back. Returns false, so that nothing more is restored, if the card no longer offers the source or
+ * the query fails.
+ */
 bool SynccardDialog::restoreSource(const QString& source)
 {
     const QByteArray keyword = source.toLatin1();

@@ -23,7 +23,7 @@ int SynccardDialog::update_and_exec_prot_version_0_8()
     return run();
 }
 
-/** Shows the one card of a legacy controller. Hides the sync-input labels, which no later opening shows again. */
+/** Shows the single card of a legacy controller. Hides the sync-input labels, and no later opening shows them again. */
 bool SynccardDialog::update_legacy_card()
 {
     tableWidget_synccards->setRowCount(0);
@@ -65,7 +65,7 @@ int SynccardDialog::update_comboBox_modes()
     return 0;
 }
 
-/** Lists the predefined modes that can be read. Returns false when the number of modes cannot be read. */
+/** Lists the predefined modes that can be read. Returns false if the number of modes cannot be read. */
 bool SynccardDialog::list_modes()
 {
     comboBox_modes->clear();

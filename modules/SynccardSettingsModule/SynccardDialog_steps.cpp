@@ -4,13 +4,15 @@
 #include <QPointer>
 
 // A channel may run an event loop in a command or in a report, so that input and timers arrive while the dialog works:
-// - An opening, a poll, a new source or an exit begins a step, unless another step is under way or something waits.
-// - A step ends after its last command: that of an opening before exec(), that of an exit when the dialog is closed.
-// - During an opened dialog's poll or new source, another new source waits for its end, and the first exit for both.
-// - Cancel drops a source that waits. Hiding the dialog, or the end of exec(), drops everything that waits.
+// - The steps are: an opening, a poll, writing a new source, and closing the dialog.
+// - A step starts only if no other step is under way and no request waits.
+// - A step ends after its last command. An opening ends before exec(). Closing ends when the dialog is closed.
+// - While the open dialog polls or writes a source, a new source waits for the end of the step.
+// - The first request to close waits for the step and for a source that waits.
+// - Cancel drops a source that waits. Hiding the dialog, or the end of exec(), drops every request that waits.
 // Any other request is dropped at once.
 
-/** Refuses an opening during another step, while something waits, and until the exec() of an earlier one returns. */
+/** Starts an opening. Returns false during another step, while a request waits, and during an earlier exec(). */
 bool SynccardDialog::beginOpening()
 {
     if (bExecuting || !beginStep())
@@ -31,7 +33,7 @@ int SynccardDialog::run()
     return exec();
 }
 
-/** The host may call exec(), too. The dialog may be gone when QDialog::exec() returns. */
+/** Runs the dialog modally. The host may call it, too. The dialog may be deleted when QDialog::exec() returns. */
 int SynccardDialog::exec()
 {
     bExecuting = true;
@@ -52,14 +54,17 @@ bool SynccardDialog::beginStep()
     return true;
 }
 
-/** Begins the writing of a new source, or lets the source wait. */
+/** Starts writing a new source. During another step, lets the source wait and returns false. */
 bool SynccardDialog::beginSource()
 {
     bSourceWaits = !beginStep();
     return !bSourceWaits;
 }
 
-/** Begins an exit. During another step the first exit waits, if the dialog was opened by update_and_exec(). */
+/**
+ * Starts closing the dialog. Returns false during another step. The first request to close waits then, if
+ * update_and_exec() has opened the dialog.
+ */
 bool SynccardDialog::beginExit(DialogCode exit)
 {
     if (beginStep()) {
@@ -72,8 +77,8 @@ bool SynccardDialog::beginExit(DialogCode exit)
 }
 
 /**
- * Ends any step except an exit. What waits is carried out from the event loop, because an exit may end in the deletion
- * of the dialog, and with it of the widget or timer whose signal began this step.
+ * Ends any step except closing. Carries out the requests that wait from the event loop: closing may delete the dialog,
+ * including the widget or timer whose signal started this step.
  */
 void SynccardDialog::endStep()
 {
@@ -82,7 +87,7 @@ void SynccardDialog::endStep()
         waitTimer.start();
 }
 
-/** Closes the dialog at the end of an exit, unless the host has hidden it meanwhile. done() may delete the dialog. */
+/** Closes the dialog, unless the host has hidden it meanwhile, and ends the step. done() may delete the dialog. */
 void SynccardDialog::endExit(DialogCode exit)
 {
     const QPointer<SynccardDialog> self(this);
@@ -93,8 +98,8 @@ void SynccardDialog::endExit(DialogCode exit)
 }
 
 /**
- * Writes the source that is shown now, unless Cancel waits. An exit that waits follows: at once if no source was
- * written, else when this function is called again.
+ * If a source waits and Cancel does not, writes the source that is shown now. If no source was written, carries out a
+ * request to close. Otherwise the next call does so.
  */
 void SynccardDialog::carryOutWaiting()
 {
@@ -110,7 +115,7 @@ void SynccardDialog::carryOutWaiting()
         reject();
 }
 
-/** A host may hide the dialog in any way, at any time. A minimized dialog goes on. */
+/** Stops input, however and whenever the host hides the dialog. A minimized dialog continues. */
 void SynccardDialog::hideEvent(QHideEvent* event)
 {
     QDialog::hideEvent(event);
@@ -118,7 +123,7 @@ void SynccardDialog::hideEvent(QHideEvent* event)
         stopInput();
 }
 
-/** Stops the polls, lets no widget mark a change or write a source, and drops what waits. */
+/** Stops the polls, drops every request that waits, and keeps widgets from marking a change or writing a source. */
 void SynccardDialog::stopInput()
 {
     timer->stop();

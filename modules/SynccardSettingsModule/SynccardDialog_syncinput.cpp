@@ -12,7 +12,7 @@ void SynccardDialog::show_frame_syncinput_if_necessary()
     frame_syncinput->setVisible(bHasSyncInput);
 }
 
-/** A poll that falls due while another step is under way is left out. */
+/** Polls the sync input. Skips a poll that is due while another step is under way. */
 void SynccardDialog::poll_input_frequency()
 {
     if (!beginStep())
@@ -38,7 +38,7 @@ void SynccardDialog::update_input_frequency()
             const QString answer = input_frequency.text();
             sSource = answer.section(QLatin1Char(' '), 0, 0);
             sFrequency = answer.section(QLatin1Char(' '), 1, 1);
-            // When there is no frequency, the controller answers "-" and the reason in quotes.
+            // Without a frequency, the controller answers "-" and the reason in quotes.
             if (sFrequency == QLatin1String("-"))
                 sFrequency = answer.section(QLatin1Char(' '), 2).remove(QLatin1Char('"'));
         }

@@ -7,8 +7,8 @@
 #include <QObject>
 
 /**
- * The plug-in's one object. It takes the host's values, creates the synccard dialog with its menu entry, and deletes
- * the dialog at the end. The host owns the module object; the module object owns the dialog and the action.
+ * The plug-in's single object. It accepts the host's values, creates the synccard dialog with its menu entry, and
+ * deletes the dialog at the end. The host owns the module object. The module object owns the dialog and the action.
  */
 class SynccardSettingsModule : public QObject, public ModuleInterface
 {

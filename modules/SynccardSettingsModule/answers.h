@@ -2,18 +2,21 @@
 
 #include <QString>
 
-/** A buffer of \a Size characters, the terminator included, for one text answer of the command channel. */
+/** A buffer for one string answer of the command channel: \a Size characters, including the terminator. */
 template <int Size>
 class Answer
 {
 public:
-    /** The buffer that the channel writes the answer into. This object owns it. */
+    /** Returns the buffer into which the channel writes the answer. This object owns the buffer. */
     char* buffer() { return characters; }
 
-    /** The whole answer. The controller sends Latin-1. */
+    /** Returns the whole answer. The controller sends Latin-1. */
     QString text() const { return latin1(); }
 
-    /** The text between the first two double quotes; with only one, the text after it; with none, an empty text. */
+    /**
+     * Returns the text between the first two double quotes. If there is only one, returns the text after it. Without
+     * a quote, returns an empty string.
+     */
     QString quoted() const
     {
         const QString answer = text();
@@ -24,10 +27,10 @@ public:
         return answer.mid(begin, end < 0 ? -1 : end - begin);
     }
 
-    /** The word at \a index, counted from 0, words being separated by white space; empty when there are fewer words. */
+    /** Returns the word at \a index, counted from 0, or an empty string. White space separates words. */
     QString word(int index) const { return text().simplified().section(QLatin1Char(' '), index, index); }
 
-    /** True only when the whole answer is "yes". */
+    /** Returns true only if the whole answer is "yes". */
     bool isYes() const { return latin1() == QLatin1String("yes"); }
 
 private:

@@ -2,25 +2,25 @@
 
 #include <QString>
 
-/** One output channel of a synccard. A record of values only; lives on the GUI thread, owned by its Synccard. */
+/** One output channel of a synccard: a record of values, owned by its Synccard. Lives on the GUI thread. */
 class Channel
 {
 public:
-    /** The user edits delays in microseconds; commands carry milliseconds. */
+    /** The user edits delays in microseconds. Commands carry milliseconds. */
     static constexpr double microsecondsPerMillisecond = 1000.0;
 
     Channel() = default;
 
-    /** The output delay in milliseconds ("synccard output_delay"). */
+    /** Returns the output delay in milliseconds ("synccard output_delay"). */
     double delay() const { return dDelay; }
 
-    /** Whether the output stays active while the system is idle ("synccard output_during_idle"). */
+    /** Returns true if the output stays active while the system is idle ("synccard output_during_idle"). */
     bool activeDuringIdle() const { return bActiveDuringIdle; }
 
     /** Sets the delay in milliseconds, without a range check. */
     void setDelay(double delay) { dDelay = delay; }
 
-    /** Sets the delay from the text of its cell, microseconds with a decimal point; 0 when the text is no number. */
+    /** Sets the delay from its cell: microseconds with a decimal point. Sets 0 if \a text is not a number. */
     void setDelay(const QString& text)
     {
         bool isNumber = false;

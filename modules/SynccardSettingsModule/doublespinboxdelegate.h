@@ -6,8 +6,8 @@
 enum ChannelTableColumn { ChannelColumn, DelayColumn, IdleColumn, MaximumDelayColumn, ChannelColumnCount };
 
 /**
- * Edits a channel's delay in its cell: whole microseconds in steps of 100, from 0 to the number that the same row shows
- * in MaximumDelayColumn. The view owns and deletes the editors.
+ * Edits a channel's delay in its cell: whole microseconds in steps of 100, from 0 to the number in the same row's
+ * MaximumDelayColumn. The view owns and deletes the editors.
  */
 class DoubleSpinboxDelegate : public QItemDelegate
 {

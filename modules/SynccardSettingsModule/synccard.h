@@ -6,7 +6,7 @@
 #include <QString>
 
 /**
- * The direct settings of one synccard. A record of values only; it owns its channels and is not copied.
+ * The direct settings of one synccard: a record of values. It owns its channels and cannot be copied.
  * Cards and channels count from 0 here and from 1 in commands: card 0 is "d01", channel 0 is "ch01".
  */
 class Synccard
@@ -22,21 +22,21 @@ public:
 
     int id() const { return iId; }
 
-    /** The identifier of the active mode ("synccard active_mode"), or "direct settings". */
+    /** Returns the identifier of the active mode ("synccard active_mode"), or "direct settings". */
     QString activeMode() const { return sActiveMode; }
 
-    /** The sync source's keyword, such as "internal" ("synccard source"). */
+    /** Returns the sync source's keyword, such as "internal" ("synccard source"). */
     QString activeSource() const { return sActiveSource; }
 
-    /** The internal frequency in Hz ("synccard internal_frequency"). */
+    /** Returns the internal frequency in Hz ("synccard internal_frequency"). */
     double frequency() const { return dFrequency; }
 
-    /** The divisor of an external sync signal ("synccard external_divisor"). */
+    /** Returns the divisor of an external sync signal ("synccard external_divisor"). */
     int externalDivisor() const { return iExternalDivisor; }
 
     int channelsCount() const { return channels.size(); }
 
-    /** The channel at \a index, which the card keeps; null when \a index is outside 0 to channelsCount() - 1. */
+    /** Returns the channel at \a index, or null if \a index is outside 0 to channelsCount() - 1. The card owns it. */
     Channel* channel(int index) const { return channels.value(index, nullptr); }
 
     void setActiveMode(const QString& mode) { sActiveMode = mode; }
@@ -44,7 +44,7 @@ public:
     void setFrequency(double frequency) { dFrequency = frequency; }
     void setExternalDivisor(int divisor) { iExternalDivisor = divisor; }
 
-    /** Appends \a channel and takes ownership; it must be allocated with new. */
+    /** Appends \a channel, which must be allocated with new, and takes ownership. */
     void addChannel(Channel* channel) { channels.append(channel); }
 
 private:

@@ -4,7 +4,7 @@
 
 #include <QList>
 
-/** Synccards in the order they were added. The list owns its records; it is not copied. */
+/** Synccards in the order in which they were added. The list owns its records and cannot be copied. */
 class SynccardList
 {
 public:
@@ -12,7 +12,7 @@ public:
     ~SynccardList() { clear(); }
     Q_DISABLE_COPY(SynccardList)
 
-    /** Appends \a card and takes ownership; it must be allocated with new. */
+    /** Appends \a card, which must be allocated with new, and takes ownership. */
     void add(Synccard* card) { synccards.append(card); }
 
     /** Deletes all records, so that every pointer to one of them becomes invalid. */
@@ -24,10 +24,10 @@ public:
 
     int size() const { return synccards.size(); }
 
-    /** The record at \a position, which must be in 0 to size() - 1. The list keeps it. */
+    /** Returns the record at \a position, which must be in 0 to size() - 1. The list owns it. */
     Synccard* at(int position) const { return synccards.at(position); }
 
-    /** The first record with the id \a id, which the list keeps; null when there is none. */
+    /** Returns the first record with the id \a id, or null without a match. The list owns it. */
     Synccard* getSynccard(int id) const
     {
         for (Synccard* card : synccards) {

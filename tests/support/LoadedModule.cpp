@@ -61,7 +61,7 @@ LoadedModule::~LoadedModule()
     delete parent;
 }
 
-/** Closes the message box that is open, after what may happen while it is. */
+/** Closes an open message box, after the action that the case has for it. */
 void LoadedModule::closeBox()
 {
     const QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -77,7 +77,7 @@ void LoadedModule::closeBox()
 
 int LoadedModule::open(const DialogUser::Steps& steps) const
 {
-    dialog()->setUpdatesEnabled(false); // Nobody looks: painting takes half of the time.
+    dialog()->setUpdatesEnabled(false); // Painting would take half of the time.
     // As in a host: the focus goes from its window to the dialog.
     parent->activateWindow();
     QApplication::processEvents();

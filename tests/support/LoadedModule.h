@@ -12,7 +12,7 @@
 #include <QTest>
 #include <QTimer>
 
-/** The built plug-in, loaded as a host loads it, on a scripted controller. Every Qt warning fails the test. */
+/** The built plug-in, loaded as in a host and connected to a scripted controller. Every Qt warning fails the test. */
 class LoadedModule
 {
 public:
@@ -24,7 +24,7 @@ public:
     void connectTo(const QString& versionsText);
 
     QDialog* dialog() const { return qobject_cast<QDialog*>(element->content); }
-    /** Uses the dialog that exists now. */
+    /** Returns a user of the dialog that exists now. */
     DialogUser user() const { return DialogUser(dialog()); }
 
     template <typename Widget>
@@ -34,17 +34,17 @@ public:
     }
 
     /**
-     * Opens the dialog by its slot, runs \a steps while it is open, and returns what update_and_exec() returned. Fails
-     * the test when they leave it open.
+     * Opens the dialog by its slot, runs \a steps while it is open, and returns the result of update_and_exec(). Fails
+     * the test if the steps leave the dialog open.
      */
     int open(const DialogUser::Steps& steps) const;
-    /** Opens the dialog and leaves by Escape. */
+    /** Opens the dialog and closes it by Escape. */
     int look() const
     {
         return open([this] { user().leave("Escape"); });
     }
 
-    /** Content and state of the named widget, as textOfWidget() puts it. */
+    /** Returns content and state of the named widget, like textOfWidget(). */
     QByteArray see(const QByteArray& name) const { return textOfWidget(find<QWidget>(name)).toUtf8(); }
 
     ScriptedController link;
@@ -61,8 +61,8 @@ private:
     QTimer boxPoller;
 };
 
-/** The versions of a controller from a protocol and its model, "1.10 QUILLSTONE 3" or "newest". */
+/** Returns the versions of a controller from a protocol and its model, "1.10 QUILLSTONE 3" or "newest". */
 BackendVersions backend(const QString& text);
 
-/** Fails the running test at any Qt warning but the offscreen platform's own. */
+/** Fails the running test at any Qt warning except the offscreen platform's own. */
 void failOnWarnings();

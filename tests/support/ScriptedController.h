@@ -5,13 +5,13 @@
 #include <functional>
 #include <utility>
 
-/** Reads the controller \a name, a name or a file; ends the program when it cannot be read. */
+/** Returns the controller \a name, a name or a file. Ends the program if it cannot be read. */
 ControllerTable tableOf(const QString& name);
 
 /**
  * The controller of most tests: tests/data/standard-controller.txt, changed by the lines of a case. It can fail
- * commands by their number, and keeps each command behind its operation ("get synccard available"). LoadedModule adds
- * what the channel above it logs as failed, and each report.
+ * commands by their number, and keeps each command after its operation ("get synccard available"). LoadedModule adds
+ * the commands that the channel logs as failed, and each report.
  */
 class ScriptedController : public SimulatedController
 {
@@ -21,7 +21,7 @@ public:
     /** Changes the table by lines of a controller file. Returns an error message, or an empty string on success. */
     QString script(const QByteArrayList& lines);
 
-    /** Forgets what was asked and reported. Fails the commands from \a first to the one before \a end, from 0. */
+    /** Forgets commands and reports. Fails the commands from \a first to the one before \a end, counted from 0. */
     void restart(const ControllerTable& table, int first = 0, int end = 0);
 
     /** Returns the commands since the last call. */
@@ -29,7 +29,7 @@ public:
 
     bool execute(Operation operation, const QByteArray& command, QByteArray* answer) override;
 
-    /** Called in each command, report and message box with its text, as what runs an event loop would. */
+    /** Called with the text of each command, report and message box, at the time when an event loop might run. */
     std::function<void(const QByteArray& text)> during = [](const QByteArray&) {};
 
     /** Answers in place of the table, if it is set. */

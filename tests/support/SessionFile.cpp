@@ -38,7 +38,7 @@ void SessionFile::readLine(const QByteArray& key, const QByteArray& value)
         qFatal("%s: unknown key: %s", place.constData(), key.constData());
 }
 
-/** The line itself, or the lines of the list that it names, "@NAME: A|B", with its parameters filled in. */
+/** Returns the line itself, or the lines of the list that it names, "@NAME: A|B", with its parameters filled in. */
 QByteArrayList SessionFile::expanded(const QByteArray& line)
 {
     if (!line.startsWith('@'))

@@ -8,20 +8,20 @@
 /** A case of a session file: its lines by their key, in order. */
 struct Session
 {
-    /** The text of the one line with this key. */
+    /** Returns the value of the single line with this key, or \a otherwise. */
     QByteArray text(const QByteArray& key, const QByteArray& otherwise = QByteArray()) const
     {
         return lines.value(key, {otherwise}).first();
     }
 
     QByteArray name;
-    QByteArray place; // "sessions.txt:12", where the case begins
+    QByteArray place; // "sessions.txt:12", where the case starts
     QMap<QByteArray, QByteArrayList> lines;
 };
 Q_DECLARE_METATYPE(Session)
 
 /**
- * Reads cases, and named lists of lines; tests/data/sessions.txt describes the format. Ends the program at an unknown
+ * Reads cases and named lists of lines. tests/data/sessions.txt describes the format. Ends the program at an unknown
  * key or list, and at a list that nothing uses.
  */
 class SessionFile
@@ -42,5 +42,5 @@ private:
     QByteArray place;      // of the line that is being read
 };
 
-/** One row for each case and protocol of a file of tests/data, for a test with the parameter "session". */
+/** Adds a row for each case and protocol of a file of tests/data, for a test with the parameter "session". */
 void addSessions(const char* name);

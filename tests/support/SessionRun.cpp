@@ -17,7 +17,7 @@ Qt::Key keyOf(const QByteArray& name)
     return Qt::Key(QKeySequence(QString(name))[0]);
 }
 
-/** Walks round the dialog by Tab. It must reach \a controls in this order, each with a spoken name. */
+/** Walks round the dialog by Tab. Returns an error message unless it reaches \a controls in order, each with a name. */
 QString walk(const QDialog* dialog, const QByteArrayList& controls)
 {
     QByteArrayList reached;
@@ -30,7 +30,7 @@ QString walk(const QDialog* dialog, const QByteArrayList& controls)
     return difference(reached, controls + controls.mid(0, 1));
 }
 
-/** Sends \a event as the window system does. sendEvent() would make it an event of the program's own. */
+/** Sends \a event as the window system does. With sendEvent() it would count as an event of the program. */
 void sendAsSystem(QWidget* widget, QEvent* event)
 {
     QSpontaneKeyEvent::setSpontaneous(event);
@@ -104,7 +104,7 @@ QString difference(const QByteArrayList& found, const QByteArrayList& expected)
         .arg(QString::number(i + 1), QString(expected.value(i, "(the end)")), QString(found.value(i, "(the end)")));
 }
 
-/** Returns the first answer of the case that none of the commands \a asked is for, or an empty string. */
+/** Returns the first answer of the case that no command in \a asked reads, or an empty string. */
 static QByteArray unaskedAnswer(const Session& session, const QByteArray& asked)
 {
     const QByteArrayList answers = session.lines.value("answer") + session.lines.value("again-answer");
@@ -142,7 +142,7 @@ QString SessionRun::problemOf(const Session& session)
     return unasked.isEmpty() ? QString() : session.place + ": nothing asks for " + unasked;
 }
 
-/** One opening, as the lines whose keys begin with the prefix say, and leaving it. */
+/** Opens and closes the dialog once, by the lines whose keys start with the prefix. */
 void SessionRun::open()
 {
     isOk = false;
@@ -170,14 +170,14 @@ void SessionRun::open()
     compare("boxes", std::exchange(module.boxes, {}), lines(exit + "-box"));
 }
 
-/** What happens while the dialog is open. */
+/** Compares the opening, carries out the actions of the user and closes the dialog. */
 void SessionRun::useAndLeave()
 {
     compareOpening();
     const QByteArrayList actions = lines("user");
     for (const QByteArray& line : actions)
         keep(act(module, line));
-    for (int turn = 0; turn < 3; ++turn) // what waits is carried out in turns of the event loop: a source, then an exit
+    for (int turn = 0; turn < 3; ++turn) // requests that wait need turns of the event loop: a source, then closing
         QCoreApplication::processEvents();
     if (!module.dialog())
         return;
@@ -220,7 +220,7 @@ void SessionRun::compare(const QString& what, const QByteArrayList& found, const
         keep(what + ' ' + difference(found, expected));
 }
 
-/** Does what a line "during TEXT -> ACTION" says, once, in the first command or report that is this text. */
+/** Carries out the action of a line "during TEXT -> ACTION" in the first command or report with this text. */
 void SessionRun::interrupt(const QByteArray& text)
 {
     asked += text + '\n';

@@ -3,14 +3,13 @@
 #include "LoadedModule.h"
 #include "SessionFile.h"
 
-/** Does what the words of \a line say, by keys and mouse where a user has them. Returns an error message, or nothing.
- */
+/** Carries out the action in \a line, by keys and mouse if possible. Returns an error message, or an empty string. */
 QString act(LoadedModule& module, const QByteArray& line);
 
 /** Returns the first difference, or an empty string. */
 QString difference(const QByteArrayList& found, const QByteArrayList& expected);
 
-/** Runs one case of a session file, leaving the dialog in one way: "OK", "Cancel", "Escape" or "close". */
+/** Runs one case of a session file and closes the dialog in one way: "OK", "Cancel", "Escape" or "close". */
 class SessionRun
 {
 public:
@@ -32,7 +31,7 @@ private:
     const Session& session;
     QByteArray prefix; // of the keys of this opening
     QByteArray way;
-    QByteArray asked;             // each command in a line
+    QByteArray asked;             // one command per line
     QByteArrayList interruptions; // that have not happened yet
     LoadedModule module;
     QString problem; // the first thing that differed from the case
