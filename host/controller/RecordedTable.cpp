@@ -22,8 +22,7 @@ static void add(const RecordedLine& line, ControllerTable* table)
     const AnswerRow* const earlier = table->find(row.command);
     if (earlier && (earlier->answer != row.answer || earlier->isFailure != row.isFailure))
         row = {line.text, line.answer, !line.isAnswered}; // Another operation had a different answer.
-    if (!table->find(row.command))
-        table->insert(row);
+    table->insert(row);
 }
 
 QString readRecordedTable(const QStringList& files, ControllerTable* table)
@@ -52,7 +51,7 @@ QString readRecordedTable(const QStringList& files, ControllerTable* table)
     const int recorded = table->rows().size();
     for (const AnswerRow& row : full.rows()) {
         if (!table->find(row.command))
-            table->insert({row.command, row.answer, row.isFailure});
+            table->insert(row);
     }
     table->description = QString("Recording %1: %2 answers, %3 more as in full")
                              .arg(QFileInfo(files.first()).fileName())
