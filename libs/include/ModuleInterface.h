@@ -34,7 +34,7 @@ typedef _GuiElement GuiElement; // NOLINT(modernize-use-using): the contract's f
 
 /**
  * The functions that every module plug-in offers to the host. The host calls them on its GUI thread in this order:
- * - set_param() for each of its four values
+ * - set_param() for each of the four values that it has
  * - get_gui_elements()
  * - at shutdown, while the parent widget still exists: about_to_exit_module(), then exit_module()
  *
