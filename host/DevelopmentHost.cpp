@@ -20,10 +20,14 @@ DevelopmentHost::DevelopmentHost(const HostSetup& setup)
     if (ModuleLoader::loadTranslation(&translator, setup.language, loader.fileName()))
         QCoreApplication::installTranslator(&translator);
     connect(&recorded, &Replay::differed, this, &DevelopmentHost::noted);
-    connect(&commandRecorder, &Recorder::started, this,
-            [this] { emit noted("Recording into " + commandRecorder.fileName()); });
-    connect(&commandRecorder, &Recorder::ended, this,
-            [this](const QString& problem) { emit noted(problem.isEmpty() ? "The recording is complete" : problem); });
+    connect(&commandRecorder, &Recorder::started, this, [this] {
+        recordingProblem.clear();
+        emit noted("Recording into " + commandRecorder.fileName());
+    });
+    connect(&commandRecorder, &Recorder::ended, this, [this](const QString& problem) {
+        recordingProblem = problem;
+        emit noted(problem.isEmpty() ? "The recording is complete" : problem);
+    });
 }
 
 QString DevelopmentHost::start(QMainWindow* window)
@@ -46,7 +50,7 @@ QString DevelopmentHost::openRecordings()
         QString problem = recorded.open();
         if (!problem.isEmpty())
             return problem;
-        setup.controller = {"as recorded", {}};
+        setup.controller = {QFileInfo(setup.replay).fileName(), {}};
         setup.controller.table.identity = recorded.recordedController();
     }
     QString problem = setup.record.isEmpty() ? QString() : commandRecorder.start(setup.record);
@@ -132,6 +136,8 @@ QString DevelopmentHost::description() const
     };
     if (commandRecorder.isRecording())
         lines.append("Recording into " + QFileInfo(commandRecorder.fileName()).fileName());
+    if (!recordingProblem.isEmpty())
+        lines.append(recordingProblem);
     if (isReplaying())
         lines.append("Replaying " + QFileInfo(recorded.fileName()).fileName());
     return lines.join('\n');

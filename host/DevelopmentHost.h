@@ -84,6 +84,7 @@ private:
     ControllerChannel commandChannel;
     BackendVersions backendVersions;
     QMainWindow* mainWindow = nullptr;
+    QString recordingProblem; // why the last recording ended early, or empty
     QTranslator translator;
     ModuleLoader loader;
 };

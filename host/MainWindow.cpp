@@ -96,7 +96,6 @@ void MainWindow::createControllerMenu()
     });
     add(menu, "&Save as...", [this] {
         auto* dialog = new QFileDialog(this, "Save the controller", "controller.txt", fileFilter);
-        dialog->setDefaultSuffix("txt");
         return askForFile(dialog, QFileDialog::AcceptSave, [this](const QString& file) {
             const Recorder& recorder = host->recorder();
             if (recorder.isRecording() && QFileInfo(file) == QFileInfo(recorder.fileName()))
@@ -121,6 +120,7 @@ QString MainWindow::askForFile(QFileDialog* dialog, QFileDialog::AcceptMode mode
 {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(mode);
+    dialog->setDefaultSuffix("txt");
     // Queued: a file dialog may still be open when it emits the signal.
     connect(
         dialog, &QFileDialog::fileSelected, this, [this, use](const QString& file) { refuse(use(file)); },
