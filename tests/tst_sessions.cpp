@@ -152,8 +152,6 @@ void TestSessions::survivesEachFailure()
 /** After all cases each row of failures.txt has been reached. */
 void TestSessions::knowsNoOtherFailure()
 {
-    if (reached.isEmpty())
-        QSKIP("the cases before this one have not run");
     for (auto phase = failures.lists.begin(); phase != failures.lists.end(); ++phase)
         for (const QByteArray& row : phase.value())
             QVERIFY2(reached.contains(phase.key() + row), "no case reaches: " + phase.key() + ' ' + row);

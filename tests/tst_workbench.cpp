@@ -262,7 +262,7 @@ void TestWorkbench::replays()
     Windows windows(setup);
     QCOMPARE(windows.workbench.findChild<QTabWidget*>()->count(), 1);
     QCOMPARE(windows.open(), DialogUser::Closed); // as without a synccard
-    const QString note = "note|%1:5: expected \"get synccard available\", found \"get config is_changeable\"||";
+    const QString note = R"(note|%1:5: expected "get synccard available", found "get config is_changeable"||)";
     QCOMPARE(windows.lines().filter("expected").join('\n'), note.arg(setup.replay));
 }
 

@@ -189,15 +189,15 @@ void SessionRun::useAndLeave()
 
 void SessionRun::compareOpening()
 {
-    QByteArrayList asked = lines("asks");
+    QByteArrayList expected = lines("asks");
     const QByteArrayList leftOut = lines("unasked");
     for (const QByteArray& text : leftOut) {
         const auto isMeant = [&](const QByteArray& line) { return line.contains(text); };
-        asked.erase(std::remove_if(asked.begin(), asked.end(), isMeant), asked.end());
+        expected.erase(std::remove_if(expected.begin(), expected.end(), isMeant), expected.end());
     }
     const QByteArrayList commands = module.link.takeCommands();
-    if (!asked.isEmpty())
-        compare("commands of the opening", commands, asked);
+    if (!expected.isEmpty())
+        compare("commands of the opening", commands, expected);
     compare("reports of the opening", std::exchange(module.link.reports, {}), lines("report"));
     compareWidgets("shows");
 }
