@@ -9,6 +9,13 @@ static BackendVersions versionsOf(const ControllerIdentity& controller)
     return {{1, 0, 0}, controller.protocol, {1, 0, 0}, controller.model};
 }
 
+/** Returns protocol and model in words. A controller file may lack the model. */
+static QString textOf(const ControllerIdentity& controller)
+{
+    return "protocol " + controller.protocol.toString()
+           + (controller.model.isEmpty() ? QString() : ", model " + controller.model);
+}
+
 DevelopmentHost::DevelopmentHost(const HostSetup& setup)
     : setup(setup), simulated(setup.controller.table), recorded(setup.replay),
       faultLayer(isReplaying() ? static_cast<ControllerLink*>(&recorded) : &simulated), commandRecorder(&faultLayer),
@@ -64,8 +71,7 @@ void DevelopmentHost::connectTo(const ControllerTable& table)
 {
     backendVersions = versionsOf(table.identity);
     simulated.setTable(table);
-    emit noted(QString("Connected to %1, protocol %2, model %3")
-                   .arg(setup.controller.name, table.identity.protocol.toString(), table.identity.model));
+    emit noted("Connected to " + setup.controller.name + ", " + textOf(table.identity));
     commandRecorder.connected(table.identity);
 }
 
@@ -122,7 +128,7 @@ void DevelopmentHost::placeModule()
 {
     loader.setParameters(&commandChannel, mainWindow, &backendVersions, false);
     loader.placeElements(mainWindow->menuBar());
-    entry().menu_entry->setShortcutContext(Qt::ApplicationShortcut); // active in the workbench, too
+    entry().menu_entry->setShortcutContext(Qt::ApplicationShortcut); // active in both windows
 }
 
 QString DevelopmentHost::description() const
@@ -131,7 +137,7 @@ QString DevelopmentHost::description() const
     const ModuleInterface* module = loader.module();
     QStringList lines = {
         setup.controller.name + (table.description.isEmpty() ? QString() : ": " + table.description),
-        "Protocol " + table.identity.protocol.toString() + ", model " + table.identity.model,
+        "Controller: " + textOf(table.identity),
         module ? module->get_module_name() + ' ' + module->get_module_version() : "No module",
     };
     if (commandRecorder.isRecording())

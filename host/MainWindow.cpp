@@ -12,12 +12,13 @@
 #include <QStyle>
 
 static constexpr int columns = 60; // of text, in average characters
+static constexpr int lines = 8;    // of text: long descriptions and reasons take several
 static constexpr int margin = 12;  // pixels
 static constexpr char fileFilter[] = "Text files (*.txt);;All files (*)";
 
 MainWindow::MainWindow(DevelopmentHost* host) : host(host)
 {
-    QApplication::setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon)); // the workbench's icon, too
+    QApplication::setWindowIcon(style()->standardIcon(QStyle::SP_ComputerIcon)); // of both windows
     // A modal dialog blocks only windows of its group. The workbench has no parent, so it stays usable.
     setAttribute(Qt::WA_GroupLeader);
     createDescription();
@@ -39,7 +40,8 @@ void MainWindow::createDescription()
     description->setTextInteractionFlags(Qt::TextSelectableByMouse);
     description->setWordWrap(true);
     description->setMargin(margin);
-    description->setMinimumWidth(columns * fontMetrics().averageCharWidth());
+    description->setAlignment(Qt::AlignTop);
+    description->setMinimumSize(columns * fontMetrics().averageCharWidth(), lines * fontMetrics().lineSpacing());
     setCentralWidget(description);
     connect(host, &DevelopmentHost::noted, this, [this, description] {
         description->setText(host->description());
@@ -63,7 +65,7 @@ void MainWindow::createHostMenu()
     menu->addAction("&Quit", this, &QWidget::close, {"Ctrl+Q"});
     const QList<QAction*> entries = menu->actions();
     for (QAction* entry : entries)
-        entry->setShortcutContext(Qt::ApplicationShortcut); // active in the workbench, too
+        entry->setShortcutContext(Qt::ApplicationShortcut); // active in both windows
 }
 
 void MainWindow::createRecordingMenu()

@@ -30,7 +30,8 @@ private slots:
 
 namespace {
 
-/** Returns every text of two openings: the user fails to raise the frequency, then there is no synccard. */
+/** Returns every text of two openings. In the first the user fails to raise the frequency, the second lacks a synccard.
+ */
 QStringList textsOfSession()
 {
     LoadedModule module({"synccard has_source d01 ttlinv=yes", "synccard has_output d01 internal ttlinv=yes",
@@ -108,7 +109,8 @@ void TestPlugin::offersOneEntry()
     QVERIFY(!action);
 }
 
-/** The module ignores other names. Values that cannot be converted are null. Without a channel there is no synccard. */
+/** The module ignores other names. Values that cannot be converted are null. Without a channel the dialog shows no
+ * synccard. */
 void TestPlugin::takesParameters()
 {
     LoadedModule module;

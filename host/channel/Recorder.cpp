@@ -10,7 +10,7 @@ QString Recorder::start(const QString& name)
     if (existing.isFile())
         return name + ": this file exists. Name another one, or remove it first.";
     auto next = std::make_unique<QFile>(name);
-    // There is no buffer: after a failed write, closing the file must not write the rest.
+    // Unbuffered, because after a failed write, closing the file must not write the rest.
     QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     if (!existing.exists())
         mode |= QIODevice::NewOnly;

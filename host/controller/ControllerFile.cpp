@@ -49,7 +49,7 @@ QString saveTable(const QString& file, const ControllerTable& table)
     if (QFileInfo::exists(file) && !QFileInfo(file).isFile())
         return file + ": not a file"; // The writer would replace a device.
     QSaveFile output(file);
-    // There is no buffer: with one, commit() succeeded with an empty file on a full disk.
+    // Unbuffered, because with a buffer, commit() succeeded with an empty file on a full disk.
     const QByteArray text = written(table);
     const bool isSaved = output.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
                          && writeWhole(&output, text) == text.size() && output.commit();

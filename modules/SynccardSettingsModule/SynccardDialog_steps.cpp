@@ -33,7 +33,7 @@ int SynccardDialog::run()
     return exec();
 }
 
-/** Runs the dialog modally. The host may call it, too. The dialog may be deleted when QDialog::exec() returns. */
+/** Runs the dialog modally. The host may also call it. The dialog may be deleted when QDialog::exec() returns. */
 int SynccardDialog::exec()
 {
     bExecuting = true;

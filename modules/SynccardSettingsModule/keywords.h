@@ -18,7 +18,7 @@ constexpr Choice syncSources[] = {
     {"ttlboth", QT_TRANSLATE_NOOP("SynccardDialog", "external TTL signal both edges")},
 };
 
-/** The sync outputs, in the order of the selector. The controller may report "none", too, which is never offered. */
+/** The sync outputs, in the order of the selector. The controller may also report "none", which is never offered. */
 constexpr Choice syncOutputs[] = {
     {"video", QT_TRANSLATE_NOOP("SynccardDialog", "video")},
     {"ttl", QT_TRANSLATE_NOOP("SynccardDialog", "ttl")},
