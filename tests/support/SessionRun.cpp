@@ -111,7 +111,10 @@ static QByteArray unaskedAnswer(const Session& session, const QByteArray& asked)
     for (const QByteArray& line : answers) {
         ControllerTable table;
         changeTable(&table, QString::fromLatin1(line));
-        const auto isAsked = [&](const AnswerRow& row) { return asked.contains(row.command); };
+        const auto isAsked = [&](const AnswerRow& row) {
+            const bool isWrite = row.command.startsWith("set ");
+            return asked.contains(row.command + '\n') || (isWrite && asked.contains(row.command + ' '));
+        };
         if (std::none_of(table.rows().begin(), table.rows().end(), isAsked))
             return line;
     }
