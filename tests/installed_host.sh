@@ -33,12 +33,16 @@ desktop=$prefix/share/applications/synccard-host.desktop
 
 cd /
 expect 0 "synccard-host $version" --version
+rows=0
 while read -r row; do
-    [[ $row = *" -> "* && $row != "#"* ]] || continue
+    [[ $row != "#"* ]] || continue
+    [[ $row = *" -> "* ]] || fail "options.txt: no mistake and message: $row"
+    rows=$((rows + 1))
     row=$(sed "s|PROGRAM|$host|g; s|OTHER_PLUGIN|$other|g; s|NO_MODULE|$no_module|g; s|MODULE_IDENTIFIER|$identifier|" <<<"$row")
     read -ra arguments <<<"${row%% -> *}"
     expect 2 "synccard-host: ${row#* -> }" "${arguments[@]}"
 done <"$data/options.txt"
+[ "$rows" != 0 ] || fail "options.txt: no rows"
 
 # The host lists its controllers without a display.
 list=$("$host" -platform none --list)

@@ -146,9 +146,7 @@ int SynccardDialog::setSourceToHub(const QString& source)
  */
 bool SynccardDialog::setSyncOutputToHub(const QByteArray& source, const QByteArray& output)
 {
-    if (!isProtocolAtLeast(1, 23))
-        return false;
-    if (source.isEmpty() || output.isEmpty())
+    if (!isProtocolAtLeast(1, 23) || source.isEmpty() || output.isEmpty())
         return false;
     bool isOffered = false;
     if (cm->getParameterBool(&isOffered, "synccard has_output d01 %s %s", source.constData(), output.constData()) != 0

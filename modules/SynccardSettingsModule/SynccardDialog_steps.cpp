@@ -33,9 +33,14 @@ int SynccardDialog::run()
     return exec();
 }
 
-/** Runs the dialog modally. The host may also call it. The dialog may be deleted when QDialog::exec() returns. */
+/**
+ * Runs the dialog modally. The host may also call it, but not during an earlier exec(), which it leaves as it is. The
+ * dialog may be deleted when QDialog::exec() returns.
+ */
 int SynccardDialog::exec()
 {
+    if (bExecuting)
+        return -1;
     bExecuting = true;
     const QPointer<SynccardDialog> self(this);
     const int result = QDialog::exec();

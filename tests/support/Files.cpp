@@ -19,8 +19,8 @@ void addTexts(const char* name)
 {
     QTest::addColumn<QByteArray>("left");
     QTest::addColumn<QByteArray>("right");
-    const QByteArray all = readFile(QString(DATA_DIR "/") + name).replace("\n= ", QByteArray(1, '\0'));
-    const QByteArrayList parts = all.split('\0').mid(1);
+    const QByteArrayList parts =
+        readFile(QString(DATA_DIR "/") + name).replace("\n= ", QByteArray(1, '\0')).split('\0').mid(1);
     for (const QByteArray& part : parts) {
         const QByteArray message = part.left(part.indexOf('\n'));
         QTest::newRow(message) << part.mid(message.size() + 1) << QByteArray(message).replace("\\n", "\n");

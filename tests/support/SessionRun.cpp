@@ -31,19 +31,18 @@ QString walk(const QDialog* dialog, const QByteArrayList& controls)
 }
 
 /** Sends \a event as the window system does. With sendEvent() it would count as an event of the program. */
-void sendAsSystem(QWidget* widget, QEvent* event)
+void sendAsSystem(QWidget* widget, QEvent&& event)
 {
-    QSpontaneKeyEvent::setSpontaneous(event);
-    QApplication::instance()->notify(widget, event);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QApplication::instance()->notify(widget, &event);
 }
 
 void turnWheel(QWidget* widget)
 {
     const QPoint center = widget->rect().center();
     QWidget* child = widget->childAt(center);
-    QWheelEvent event(center, widget->mapToGlobal(center), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    sendAsSystem(child ? child : widget, &event);
+    sendAsSystem(child ? child : widget, QWheelEvent(center, widget->mapToGlobal(center), {}, {0, 120}, Qt::NoButton,
+                                                     Qt::NoModifier, Qt::NoScrollPhase, false));
 }
 
 } // namespace
@@ -59,7 +58,6 @@ QString act(LoadedModule& module, const QByteArray& line)
     QDialog* dialog = module.dialog();
     auto* widget = module.find<QWidget>(words.value(1));
     auto* table = module.find<QTableWidget>("tableWidget_channels");
-    QHideEvent minimizing;
     bool isDone = true;
     QString problem;
     const QMap<QByteArray, std::function<void()>> actions = {
@@ -77,8 +75,9 @@ QString act(LoadedModule& module, const QByteArray& line)
         {"answer", [&] { problem = module.link.script({line.mid(action.size() + 1)}); }},
         {"leave", [&] { user.leave(words.value(1)); }},
         {"done", [&] { dialog->done(words.value(1).toInt()); }},
+        {"exec", [&] { dialog->exec(); }},
         {"show", [&] { dialog->show(); }},
-        {"minimize", [&] { sendAsSystem(dialog, &minimizing); }},
+        {"minimize", [&] { sendAsSystem(dialog, QHideEvent()); }},
         {"hide", [&] { dialog->hide(); }},
         {"activate", [&] { module.element->menu_entry->trigger(); }},
         {"delete-parent", [&] { delete module.parent; }},
@@ -112,8 +111,7 @@ static QByteArray unaskedAnswer(const Session& session, const QByteArray& asked)
         ControllerTable table;
         changeTable(&table, QString::fromLatin1(line));
         const auto isAsked = [&](const AnswerRow& row) {
-            const bool isWrite = row.command.startsWith("set ");
-            return asked.contains(row.command + '\n') || (isWrite && asked.contains(row.command + ' '));
+            return asked.contains(row.command + (row.command.startsWith("set ") ? "" : "\n"));
         };
         if (std::none_of(table.rows().begin(), table.rows().end(), isAsked))
             return line;
@@ -199,7 +197,7 @@ void SessionRun::compareOpening()
         expected.erase(std::remove_if(expected.begin(), expected.end(), isMeant), expected.end());
     }
     const QByteArrayList commands = module.link.takeCommands();
-    if (!expected.isEmpty())
+    if (!lines("asks").isEmpty())
         compare("commands of the opening", commands, expected);
     compare("reports of the opening", std::exchange(module.link.reports, {}), lines("report"));
     compareWidgets("shows");
