@@ -28,6 +28,8 @@ Workbench::Workbench(DevelopmentHost* host)
 
 void Workbench::bringToFront()
 {
+    if (isHidden())
+        move(pos()); // Otherwise the window manager would place a closed window anew.
     show();
     raise();
     activateWindow();
