@@ -65,10 +65,9 @@ QString readRecording(const QString& file, QVector<RecordedLine>* lines)
     QString reason = texts.value(0) + '\n' == recordingHeader ? QString() : "not a recording";
     int number = 1;
     for (; reason.isEmpty() && number < texts.size(); ++number) {
-        RecordedLine line{{}, true, {}, number + 1};
-        reason = characterFault(texts.at(number));
-        if (!reason.isEmpty() || texts.at(number).isEmpty() || texts.at(number).startsWith('#'))
+        if (texts.at(number).isEmpty() || texts.at(number).startsWith('#'))
             continue;
+        RecordedLine line{{}, true, {}, number + 1};
         reason = readLine(texts.at(number), &line);
         lines->append(line);
     }

@@ -2,13 +2,6 @@
 
 #include <QRegularExpression>
 
-#include <algorithm>
-
-static bool isControl(QChar character)
-{
-    return character.category() == QChar::Other_Control;
-}
-
 QString escapeOf(QChar character)
 {
     return QString("\\x%1").arg(character.unicode(), 2, 16, QChar('0'));
@@ -20,7 +13,7 @@ QString escaped(const QByteArray& text)
     // A recording separates a command from its answer by an arrow.
     line.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r").replace("->", "\\->");
     for (int i = line.size() - 1; i >= 0; --i) {
-        if (isControl(line.at(i)))
+        if (line.at(i).category() == QChar::Other_Control)
             line.replace(i, 1, escapeOf(line.at(i)));
     }
     return line;
@@ -39,15 +32,6 @@ QByteArray unescaped(const QString& written)
             bytes.replace(i, 3, QByteArray::fromHex(bytes.mid(i + 1, 2)));
     }
     return bytes;
-}
-
-QString characterFault(const QString& line)
-{
-    const auto* const control = std::find_if(line.begin(), line.end(), isControl);
-    if (control == line.end())
-        return {};
-    return QString(R"(a control character, code %1. Write it as "%2".)")
-        .arg(QString::number(control->unicode()), escapeOf(*control));
 }
 
 QString textFault(const QString& line)

@@ -16,9 +16,6 @@ QString escapeOf(QChar character);
 /** Returns the text that \a written stands for. \a written must not have a fault. */
 QByteArray unescaped(const QString& written);
 
-/** Returns an error message if \a line has a control character, otherwise an empty string. */
-QString characterFault(const QString& line);
-
 /** Returns an error message if \a line is not Latin-1 or has an unknown escape, otherwise an empty string. */
 QString textFault(const QString& line);
 

@@ -19,13 +19,10 @@ static QString textOf(const QByteArray& latin1)
 QString ControllerText::read(const QString& line)
 {
     const QString text = line.trimmed();
-    fault.clear();
     if (text.isEmpty() || text.startsWith('#'))
-        return fault;
+        return {};
     const int separator = text.indexOf('=');
-    fault = characterFault(text);
-    if (fault.isEmpty())
-        fault = textFault(text);
+    fault = textFault(text);
     demand(separator >= 0, "\"COMMAND = ANSWER\" is expected");
     const QString left = text.left(separator).trimmed();
     const QString right = text.mid(separator + 1).trimmed();
