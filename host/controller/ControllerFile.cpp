@@ -41,7 +41,7 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
         if (!fault.isEmpty())
             return QString("%1:%2: %3").arg(name).arg(i + 1).arg(fault);
     }
-    return {};
+    return table->rows().isEmpty() ? name + ": no answers. At least one \"COMMAND = ANSWER\" is expected" : QString();
 }
 
 QString saveTable(const QString& file, const ControllerTable& table)
