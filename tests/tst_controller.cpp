@@ -114,7 +114,6 @@ void Layers::take(const QString& step)
         {"nth", [&] { faults.failNth(rest.toInt()); }},
         {"matching", [&] { faults.failMatching(QRegularExpression(rest)); }},
         {"latency", [&] { faults.setLatency(rest.toInt()); }},
-        {"tell", [&] { hear(QString::number(faults.latency())); }},
         {"loop", [&] { faults.waitInEventLoop(true); }},
         {"connect", [&] { readConnection(step.toLatin1(), &identity) ? recorder.connected(identity) : hear("no"); }},
         {"record", [&] { hear(recorder.start(file)); }},

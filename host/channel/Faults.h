@@ -19,7 +19,7 @@ public:
     void failMatching(const QRegularExpression& expression) { pattern = expression; }
     QRegularExpression failing() const { return pattern; }
     /** Lets each command take \a milliseconds longer, 0 to maximumLatency. */
-    void setLatency(int milliseconds) { delay = qBound(0, milliseconds, maximumLatency); }
+    void setLatency(int milliseconds) { delay = milliseconds; }
     int latency() const { return delay; }
     /** Lets commands wait in an event loop, as many real channels do, so that input and timers arrive. */
     void waitInEventLoop(bool isOn) { hasEventLoop = isOn; }
