@@ -31,8 +31,8 @@ Comparison::Comparison(const Workload& workload)
     : channel(workload), versions({1, 0, 0}, newestProtocol(), {1, 0, 0}, "QUILLSTONE"), bare(&parent, workload),
       loader(ModuleLoader::defaultFile())
 {
-    if (!loader.load())
-        qFatal("%s", qPrintable(loader.errorString()));
+    if (const QString problem = loader.load(); !problem.isEmpty())
+        qFatal("%s", qPrintable(problem));
     loader.setParameters(&channel, &parent, &versions, false);
 }
 

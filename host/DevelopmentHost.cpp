@@ -42,7 +42,7 @@ QString DevelopmentHost::start(QMainWindow* window)
     Q_INIT_RESOURCE(host); // ":/lock.png", from which the module's dialog takes its lock icon
     mainWindow = window;
     // The plug-in is loaded first, because a program that cannot start must not start a recording.
-    QString problem = reloadModule();
+    QString problem = loader.load();
     if (problem.isEmpty())
         problem = openRecordings();
     if (problem.isEmpty())
@@ -77,7 +77,7 @@ void DevelopmentHost::connectTo(const ControllerTable& table)
 
 QString DevelopmentHost::restart(const ControllerTable& table)
 {
-    QString problem = reloadModule();
+    QString problem = loader.load();
     if (!problem.isEmpty())
         return problem;
     connectTo(table);
@@ -111,16 +111,6 @@ QString DevelopmentHost::whyBusy() const
     if (commandChannel.isBusy())
         return "A command is under way. Try again when it is answered.";
     return QApplication::activeModalWidget() ? "Close the dialog first." : QString();
-}
-
-/**
- * Unloads any earlier module and loads it again. Its menu entry is not placed yet. Returns an error message, or an
- * empty string on success.
- */
-QString DevelopmentHost::reloadModule()
-{
-    loader.unload();
-    return loader.load() ? QString() : loader.errorString();
 }
 
 /** Gives the host's values to the module and places its menu entry. */

@@ -73,7 +73,6 @@ signals:
 private:
     QString openRecordings();
     void connectTo(const ControllerTable& table);
-    QString reloadModule();
     void placeModule();
 
     HostSetup setup; // with the controller as the user chose it

@@ -41,34 +41,27 @@ bool ModuleLoader::loadTranslation(QTranslator* translator, const QLocale& langu
     return translator->load(language, MODULE_NAME, "_", QFileInfo(pluginFile).absolutePath());
 }
 
-bool ModuleLoader::load()
+QString ModuleLoader::load()
 {
-    const QString expectedPlugin = "a module plug-in \"" MODULE_IDENTIFIER "\"";
+    unload();
+    const QString expectedPlugin = file + ": expected a module plug-in \"" MODULE_IDENTIFIER "\", found ";
     if (!QFileInfo(file).isFile())
-        return refuse(expectedPlugin, "no such file");
+        return expectedPlugin + "no such file";
     const QString identifier = loader.metaData().value("IID").toString();
     if (identifier.isEmpty())
-        return refuse(expectedPlugin, "not a Qt plug-in");
+        return expectedPlugin + "not a Qt plug-in";
     if (identifier != MODULE_IDENTIFIER)
-        return refuse(expectedPlugin, '"' + identifier + '"');
+        return expectedPlugin + '"' + identifier + '"';
     QObject* instance = loader.instance();
     if (!instance)
-        return refuse("a plug-in that loads", loader.errorString());
+        return file + ": expected a plug-in that loads, found " + loader.errorString();
     interface = qobject_cast<ModuleInterface*>(instance);
-    if (!interface) {
-        const QString className = instance->metaObject()->className();
-        loader.unload();
-        return refuse(QString("an object with the interface \"%1\"")
-                          .arg(QLatin1String(qobject_interface_iid<ModuleInterface*>())),
-                      className + " without it");
-    }
-    return true;
-}
-
-bool ModuleLoader::refuse(const QString& expected, const QString& found)
-{
-    error = QString("%1: expected %2, found %3").arg(file, expected, found);
-    return false;
+    if (interface)
+        return {};
+    const QString className = instance->metaObject()->className();
+    loader.unload();
+    return QString("%1: expected an object with the interface \"%2\", found %3 without it")
+        .arg(file, qobject_interface_iid<ModuleInterface*>(), className);
 }
 
 void ModuleLoader::setParameters(IOManager* commandManager, QWidget* moduleParent, BackendVersions* versions,

@@ -34,11 +34,11 @@ public:
 
     QString fileName() const { return file; }
 
-    /** Reads the metadata, and loads the plug-in if its identifiers are the expected ones. Returns true on success. */
-    bool load();
-
-    /** Returns the error message of load(): file, expected and found, in one line. */
-    QString errorString() const { return error; }
+    /**
+     * Ends any earlier module, and loads the plug-in if its identifiers are the expected ones. Returns an error message
+     * with file, expected and found, or an empty string on success.
+     */
+    QString load();
 
     /** Returns the module object, which belongs to this loader, or null if no module is loaded. */
     ModuleInterface* module() const { return interface; }
@@ -53,10 +53,7 @@ public:
     void unload();
 
 private:
-    bool refuse(const QString& expected, const QString& found);
-
     QString file;
     QPluginLoader loader;
     ModuleInterface* interface = nullptr;
-    QString error;
 };

@@ -100,18 +100,13 @@ int checkWritten(ScriptedController* link)
 /** Carries out hasty actions of a user or a host. */
 void actAtRandom(LoadedModule& module, Garbage* garbage)
 {
-    const QVector<QByteArray> often = {"key comboBox_modes Down",
-                                       "key comboBox_modes Down",
-                                       "key comboBox_source Down",
-                                       "key comboBox_source Up",
-                                       "key comboBox_output Down",
-                                       "key doubleSpinBox_frequency Up",
-                                       "click 0 2",
-                                       "activate",
-                                       "poll"};
+    const QVector<QByteArray> lists = {"modes Down", "modes Down", "source Down", "source Up", "output Down"};
+    const QVector<QByteArray> others = {"key doubleSpinBox_frequency Up", "click 0 2", "activate", "poll"};
     const QVector<QByteArray> seldom = {"leave OK", "leave OK", "leave OK", "leave Cancel", "hide", "done 0"};
-    for (int i = 0; i < 4 && (module.dialog()->isVisible() || garbage->isAsked); ++i)
-        act(module, garbage->anyOf(often));
+    for (int i = 0; i < 4 && (module.dialog()->isVisible() || garbage->isAsked); ++i) {
+        const QByteArray key = "key comboBox_" + garbage->anyOf(lists);
+        act(module, garbage->random.bounded(3) > 0 ? key : garbage->anyOf(others));
+    }
     if (module.dialog()->isVisible() && garbage->random.bounded(4) == 0)
         act(module, garbage->anyOf(seldom));
 }

@@ -25,7 +25,9 @@ LoadedModule::LoadedModule(const QByteArrayList& script)
     : channel(&link), versions(backend("newest FERNBANK")), parent(new QWidget), loader(PLUGIN_FILE)
 {
     failOnWarnings();
-    const QString fault = link.script(script);
+    QString fault = link.script(script);
+    if (fault.isEmpty())
+        fault = loader.load();
     if (!fault.isEmpty())
         qFatal("%s", qPrintable(fault));
     QObject::connect(&channel, &ControllerChannel::executed, &channel, [this](const CommandRecord& record) {
@@ -38,8 +40,6 @@ LoadedModule::LoadedModule(const QByteArrayList& script)
                          link.reports.append((isConvention ? "" : "wrong convention: ") + message.toLatin1());
                          link.during(message.toLatin1());
                      });
-    if (!loader.load())
-        qFatal("%s", qPrintable(loader.errorString()));
     loader.setParameters(&channel, parent, &versions, false);
     element = loader.module()->get_gui_elements().first();
     QObject::connect(&boxPoller, &QTimer::timeout, &boxPoller, [this] { closeBox(); });
