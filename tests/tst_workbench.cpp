@@ -61,11 +61,10 @@ struct Windows
     QStringList lines() const
     {
         QCoreApplication::processEvents();
-        QStringList lines;
+        QStringList all;
         for (int row = 0; row < rows->rowCount(); ++row)
-            lines +=
-                rows->index(row, 0).data(FilteredTable::lineRole).toString().section('\t', 1, 4).replace('\t', '|');
-        return lines;
+            all += rows->index(row, 0).data(FilteredTable::lineRole).toString().section('\t', 1, 4).replace('\t', '|');
+        return all;
     }
 
     /** Types \a text in place of the text in \a widget. */

@@ -141,12 +141,12 @@ QString written(const QByteArray& text)
     return line;
 }
 
-QString writtenCommand(const AnswerRow& row)
+static QString writtenCommand(const AnswerRow& row)
 {
     return written(row.command).replace('=', "\\x3d").replace('[', "\\x5b");
 }
 
-QString writtenAnswer(const AnswerRow& row)
+static QString writtenAnswer(const AnswerRow& row)
 {
     if (row.isFailure)
         return failure;

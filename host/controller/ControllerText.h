@@ -44,9 +44,5 @@ QString changeTable(ControllerTable* table, const QString& lines);
 
 /** Returns \a text as a controller file writes it. */
 QString written(const QByteArray& text);
-/** Returns the command of \a row as a controller file writes it. */
-QString writtenCommand(const AnswerRow& row);
-/** Returns the answer of \a row as a controller file writes it. */
-QString writtenAnswer(const AnswerRow& row);
 /** Returns \a table as a controller file, which reads back to the same table. */
 QByteArray written(const ControllerTable& table);
