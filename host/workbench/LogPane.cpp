@@ -17,6 +17,7 @@
 #include <utility>
 
 static constexpr int answerColumn = 3;
+static constexpr int narrowest = 12;           // average characters of a column
 static constexpr int sumMilliseconds = 100;    // so that no opening waits for the sum
 static constexpr int slowMicroseconds = 10000; // longer than painting the table takes
 static constexpr char timeFormat[] = "HH:mm:ss.zzz";
@@ -116,9 +117,10 @@ void LogPane::showPending()
 
 void LogPane::setColumnWidths()
 {
-    const int widest[] = {17, 12, 44, 10, 8, 16}; // in average characters
+    const int widest[] = {17, 12, 44, 12, 12, 16}; // in average characters
     for (int column = 0; column < log.columnCount(); ++column)
         table->setColumnWidth(column, widest[column] * table->fontMetrics().averageCharWidth());
+    table->horizontalHeader()->setMinimumSectionSize(narrowest * table->fontMetrics().averageCharWidth());
     table->horizontalHeader()->setSectionResizeMode(answerColumn, QHeaderView::Stretch);
 }
 
