@@ -33,6 +33,8 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
     if (!file.open(QIODevice::ReadOnly))
         return name + ": " + file.errorString();
     const QStringList lines = linesOf(file.readAll());
+    if (lines == QStringList(QString()))
+        return name + ": the file is empty";
     if (lines.first() + '\n' == recordingHeader)
         return readRecordedTable(QStringList(name) + files, table);
     ControllerText text(table, QStringList(path) + files);
@@ -41,7 +43,7 @@ QString readTable(const QString& wanted, const QStringList& files, ControllerTab
         if (!fault.isEmpty())
             return QString("%1:%2: %3").arg(name).arg(i + 1).arg(fault);
     }
-    return table->rows().isEmpty() ? name + ": no answers. At least one \"COMMAND = ANSWER\" is expected" : QString();
+    return {};
 }
 
 QString saveTable(const QString& file, const ControllerTable& table)
