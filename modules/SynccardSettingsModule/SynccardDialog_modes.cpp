@@ -32,6 +32,7 @@ bool SynccardDialog::update_legacy_card()
     label_inputSource->hide();
     label_inputFrequency1->hide();
     label_inputFrequency->hide();
+    frame_syncinput->layout()->activate(); // Otherwise the dialog would shrink after it is shown.
 
     TextAnswer result;
     if (cm->sendCommand(result.buffer(), "zorvan2 get synccard synccard") != 0) {

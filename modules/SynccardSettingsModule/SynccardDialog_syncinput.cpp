@@ -7,9 +7,8 @@
 void SynccardDialog::show_frame_syncinput_if_necessary()
 {
     bool bHasSyncInput = false;
-    if (cm->getParameterBool(&bHasSyncInput, "synccard has_input_frequency") != 0)
-        bHasSyncInput = false;
-    frame_syncinput->setVisible(bHasSyncInput);
+    const int result = cm->getParameterBool(&bHasSyncInput, "synccard has_input_frequency");
+    frame_syncinput->setVisible(result == 0 && bHasSyncInput);
 }
 
 /** Polls the sync input. Skips a poll that is due while another step is under way. */
