@@ -4,38 +4,12 @@
 
 #include <QElapsedTimer>
 
+#include <clocale>
 #include <cstdarg>
 #include <cstdio>
-#include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale() is not in <clocale>
 
-namespace {
-
-#ifdef Q_OS_UNIX
-/** Lets the C library format numbers with a decimal point in a scope. QApplication has set the user's locale. */
-class DecimalPoint
+static Q_ATTRIBUTE_FORMAT_PRINTF(1, 0) QByteArray formatted(const char* format, va_list arguments)
 {
-public:
-    DecimalPoint() : plain(newlocale(LC_NUMERIC_MASK, "C", nullptr)), previous(uselocale(plain)) {}
-    ~DecimalPoint()
-    {
-        uselocale(previous);
-        freelocale(plain);
-    }
-    Q_DISABLE_COPY(DecimalPoint)
-
-private:
-    locale_t plain;
-    locale_t previous;
-};
-#else
-/** Does nothing: outside Unix, Qt leaves the C library in its "C" locale, which has a decimal point. */
-class DecimalPoint
-{};
-#endif
-
-Q_ATTRIBUTE_FORMAT_PRINTF(1, 0) QByteArray formatted(const char* format, va_list arguments)
-{
-    const DecimalPoint scope{};
     va_list again;
     va_copy(again, arguments);
     const int length = vsnprintf(nullptr, 0, format, again);
@@ -45,7 +19,11 @@ Q_ATTRIBUTE_FORMAT_PRINTF(1, 0) QByteArray formatted(const char* format, va_list
     return text;
 }
 
-} // namespace
+ControllerChannel::ControllerChannel(ControllerLink* link) : link(link)
+{
+    // In the user's locale, which QApplication has set, printf may write a decimal comma.
+    static_cast<void>(std::setlocale(LC_NUMERIC, "C"));
+}
 
 // Formats the arguments of the surrounding function. This is a macro, because only that function can reach its "...".
 #define FORMAT_COMMAND                                                                                                 \

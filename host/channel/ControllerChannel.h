@@ -18,7 +18,8 @@ class ControllerChannel : public QObject, public IOManager
     Q_OBJECT
 
 public:
-    explicit ControllerChannel(ControllerLink* link) : link(link) {}
+    /** Needs a QCoreApplication. From then on, the whole program writes numbers with a decimal point. */
+    explicit ControllerChannel(ControllerLink* link);
 
     int sendCommand(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
     int getParameter(char* answer, const char* format, ...) override Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
