@@ -23,7 +23,6 @@ QString Recorder::start(const QString& name)
     }
     stop();
     file = std::move(next);
-    wholeSize = header.size();
     isConnectionDue = true;
     time.start();
     emit started();
@@ -71,14 +70,12 @@ void Recorder::write(const RecordedLine& line)
     if (!isRecording())
         return;
     const QByteArray bytes = line.toLine(time.elapsed());
-    const qint64 written = writeWhole(file.get(), bytes);
-    if (written == bytes.size()) {
-        wholeSize += written;
+    const qint64 wholeLines = file->pos();
+    if (writeWhole(file.get(), bytes) == bytes.size())
         return;
-    }
     const QString problem = fileName() + ": " + file->errorString() + ". The recording ends here.";
     if (QFileInfo(fileName()).isFile()) // and not a device
-        file->resize(wholeSize);
+        file->resize(wholeLines);
     file.reset();
     emit ended(problem);
 }

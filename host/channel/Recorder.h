@@ -41,7 +41,6 @@ private:
 
     ControllerLink* below;
     std::unique_ptr<QFile> file; // null while not recording
-    qint64 wholeSize = 0;        // bytes in whole lines
     QByteArray connection;       // the connectionText() of the current one
     bool isConnectionDue = false;
     QElapsedTimer time;

@@ -10,27 +10,23 @@ namespace {
 /** Reads one line. Returns an error message, or an empty string on success. */
 QString readLine(const QString& text, RecordedLine* line)
 {
-    static const QRegularExpression form(R"(^(\S+) ((\S+) .*?)( ->(?: (.*))?| failed)$)");
+    static const QRegularExpression form(R"(^\d+\.?\d* ((\S+) .*?)( ->(?: (.*))?| failed)$)");
     QString fault = textFault(text);
     if (!fault.isEmpty())
         return fault;
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         return R"("SECONDS OPERATION COMMAND -> ANSWER" or "... failed" is expected)";
-    bool isTime = false;
-    match.captured(1).toDouble(&isTime);
-    if (!isTime)
-        return QString("seconds are expected, \"%1\" is found").arg(match.captured(1));
-    line->text = unescaped(match.captured(2));
-    line->isAnswered = match.captured(4) != " failed";
-    line->answer = unescaped(match.captured(5));
+    line->text = unescaped(match.captured(1));
+    line->isAnswered = match.captured(3) != " failed";
+    line->answer = unescaped(match.captured(4));
     ControllerIdentity controller;
-    if (match.captured(3) == "connect")
+    if (match.captured(2) == "connect")
         return readConnection(line->text, &controller)
                    ? QString()
                    : "a protocol version such as 1.23.0 is expected after \"connect\"";
-    const bool isKnown = isOperation(match.captured(3).toLatin1());
-    return isKnown ? QString() : QString("unknown operation \"%1\"").arg(match.captured(3));
+    const bool isKnown = isOperation(match.captured(2).toLatin1());
+    return isKnown ? QString() : QString("unknown operation \"%1\"").arg(match.captured(2));
 }
 
 } // namespace
