@@ -4,17 +4,12 @@
 #include <QRegularExpression>
 #include <QTableWidget>
 
-#ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/common_interface_defs.h>
-#endif
-
 /** Openings connected to a controller that answers garbage, with a hasty user. Each opening has a seed of its own. */
 class TestGarbage : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void survives();
 };
 
@@ -123,13 +118,6 @@ void openAtRandom(LoadedModule& module, Garbage* garbage, QMap<int, int>* result
 }
 
 } // namespace
-
-void TestGarbage::initTestCase()
-{
-#ifdef __SANITIZE_ADDRESS__
-    __sanitizer_set_death_callback(printSeed);
-#endif
-}
 
 /** FUZZ_OPENINGS and FUZZ_SEED, set by ./dev fuzz, ask for more openings and for other garbage. */
 void TestGarbage::survives()
